@@ -1,0 +1,24 @@
+// Helpers shared by the tests: a temporary game folder written by the test itself.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+// A fresh folder under the system's temporary directory, removed when the object goes.
+// While it lives, it is the game folder (Dossier_Jeu).
+class DossierTemporaire {
+public:
+    DossierTemporaire();
+    ~DossierTemporaire();
+    DossierTemporaire(const DossierTemporaire&) = delete;
+    DossierTemporaire& operator=(const DossierTemporaire&) = delete;
+
+    const std::filesystem::path& Chemin() const { return chemin_; }
+    // Writes a file (relative path, folders created) with exactly this content.
+    void Ecrire(std::string_view relatif, std::string_view contenu) const;
+    std::string Lire(std::string_view relatif) const;
+
+private:
+    std::filesystem::path chemin_;
+};
