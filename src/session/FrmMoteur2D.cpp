@@ -1,0 +1,95 @@
+#include "session/FrmMoteur2D.h"
+
+#include <cmath>
+
+#include "ai/ModIA2.h"
+#include "rules/Horloge.h"
+#include "session/PreparerPartie.h"
+#include "world/Globales.h"
+
+bool Periode_Ecoulee(float ecart, int16_t rythme) {
+    const float periode = 1.0f / static_cast<float>(rythme);
+    return periode < ecart || -periode > ecart;
+}
+
+void FrmMoteur2D::MoteurJeu(const ChoixPartie& choix) {
+    if (!Ouvrir(choix)) return;
+    while (!FinPartie) Passe();
+}
+
+// A script that is not found turns the character's AI off.
+static void Attacher_Scripts_IA() {
+    for (ClsJeuPerso& p : Persos) {
+        if (!p.IA) continue;
+        p.EtapeIA = static_cast<int16_t>(Numero_Script_IA(p.FichierIA));
+        if (p.EtapeIA < 0) p.IA = false;
+    }
+}
+
+bool FrmMoteur2D::Ouvrir(const ChoixPartie& choix) {
+    P.Fenetre.Pomper_Evenements();
+    if (!Preparer_Partie(choix)) return false;
+    Attacher_Scripts_IA();
+    DernierTemps = TempsCourant = Horloge();
+    DebutSeconde = TempsCourant;
+    FinPartie = Victoire = Defaite = false;
+    return true;
+}
+
+void FrmMoteur2D::Passe() {
+    TempsCourant = Horloge();
+    Ecart = TempsCourant - DernierTemps;
+    Lire_Peripheriques();
+    if (Periode_Ecoulee(Ecart, Jeu.Definir_Vitesse()) && !Jeu.Pause) Tour();
+    if (Periode_Ecoulee(Ecart, Jeu.Definir_FPS())) Rendu();
+    if (!Victoire && !Defaite) Verifier_Fin();
+}
+
+void FrmMoteur2D::Lire_Peripheriques() {
+    Touche = P.Souris.Active() ? P.Clavier.Pression_Clavier(ToucheCtrl, ToucheMaj, ToucheAlt) : 0;
+    P.Souris.Positions(SourisX, SourisY, SourisZ);
+    CliqueGauche = P.Souris.Clique(0);
+    CliqueDroit = P.Souris.Clique(1);
+    // Only the wheel's sign scrolls, one line a pass; the windows that scroll come with the
+    // interface.
+    SourisZ = 0;
+}
+
+void FrmMoteur2D::Tour() {
+    ++NombreTours;
+}
+
+void FrmMoteur2D::Rendu() {
+    ++NombreImages;
+    Mesurer_FPS();
+    P.Ecran.Presenter_Image();
+    P.Ecran.Pomper_Evenements();
+    DernierTemps = TempsCourant;
+}
+
+void FrmMoteur2D::Mesurer_FPS() {
+    ++ImagesSeconde;
+    if (std::fabs(TempsCourant - DebutSeconde) > 1.0f) {
+        FPSMesure = ImagesSeconde;
+        ImagesSeconde = 0;
+        DebutSeconde = TempsCourant;
+    }
+}
+
+// Won when every enemy fief has lost its castle and all its subjects; lost when the hero's
+// own fief has. With no enemy fief at all the game is won at once.
+void FrmMoteur2D::Verifier_Fin() {
+    const ClsJeuPerso& heros = Persos[static_cast<std::size_t>(PersoActif)];
+    auto debout = [](std::size_t f) {
+        return Chateaux[f].Visible || Fiefs[f].NombreMorts < Fiefs[f].NombreSujets;
+    };
+    Victoire = true;
+    for (std::size_t f = 0; f < Fiefs.size(); ++f) {
+        if (Fiefs[f].Equipe != heros.Equipe && debout(f)) {
+            Victoire = false;
+            break;
+        }
+    }
+    if (Victoire) return;
+    Defaite = !debout(static_cast<std::size_t>(heros.Fief));
+}

@@ -1,0 +1,70 @@
+#include "session/Simulation.h"
+
+#include <ostream>
+
+#include "platform/Peripheriques.h"
+#include "rules/ClsJeuParam.h"
+#include "rules/Conversions.h"
+#include "rules/Hasard.h"
+#include "rules/Horloge.h"
+#include "session/FrmMoteur2D.h"
+#include "world/Globales.h"
+
+void Creer_Heros_Actif() {
+    Persos.assign(1, ClsJeuPerso{});
+    Maisons.assign(1, ClsJeuBatiment{});
+    PersoActif = 0;
+    Persos[0].Fief = 0;
+    Persos[0].Init(0, Param);
+}
+
+std::optional<int64_t> Simuler(const ChoixPartie& choix, int64_t ticks) {
+    FenetreMuette fenetre;
+    EcranNul ecran;
+    SourisMuette souris;
+    ClavierMuet clavier;
+    FrmMoteur2D moteur(Peripheriques{fenetre, ecran, souris, clavier});
+    Piloter_Horloge(0);
+    if (!moteur.Ouvrir(choix)) return std::nullopt;
+    // Each pass the driven clock moves on by one and a half periods: one tick and one render.
+    const float pas = 1.5f / static_cast<float>(Jeu.Definir_Vitesse());
+    while (moteur.NombreTours < ticks && !FinPartie) {
+        Avancer_Horloge(pas);
+        moteur.Passe();
+    }
+    return moteur.NombreTours;
+}
+
+uint64_t Empreinte_Etat() {
+    Empreinte e;
+    Empreindre_Monde(e);
+    e.Ajouter(Etat_Hasard());
+    return e.Valeur();
+}
+
+void Ecrire_Fiefs(std::ostream& sortie) {
+    for (std::size_t f = 0; f < Fiefs.size(); ++f) {
+        const ClsJeuFief& fief = Fiefs[f];
+        double argent = 0;
+        for (const ClsJeuPerso& p : Persos)
+            if (p.Fief == static_cast<int32_t>(f)) argent += p.Argent;
+        double stock = 0;
+        for (double q : fief.Ressources) stock += q;
+        sortie << "fief=" << f << " epoque=" << fief.Epoque << " vivants=" << fief.NombreSujets - fief.NombreMorts
+               << " morts=" << fief.NombreMorts << " argent=" << Texte_Nombre(argent)
+               << " stock=" << Texte_Nombre(stock) << '\n';
+    }
+}
+
+void Ecrire_Etat(std::ostream& sortie) {
+    for (std::size_t i = 0; i < Persos.size(); ++i) {
+        const ClsJeuPerso& p = Persos[i];
+        sortie << "perso=" << i << " fief=" << p.Fief << " peuple=" << p.Peuple << " x=" << p.PositionX
+               << " y=" << p.PositionY << " action=" << p.Definir_Action() << '\n';
+    }
+    for (std::size_t k = 0; k < Ressources.size(); ++k) {
+        const ClsJeuRessources& g = Ressources[k];
+        sortie << "gisement=" << k << " type=" << g.Type << " x=" << g.PositionX << " y=" << g.PositionY
+               << " quantite=" << Texte_Nombre(g.Quantite) << '\n';
+    }
+}

@@ -1,0 +1,16 @@
+// Checks of a game folder, for korvalis-verifier: every problem as
+// "file:section:key: what is wrong".
+#pragma once
+
+#include <string>
+#include <vector>
+
+using Problemes = std::vector<std::string>;
+
+// The pace of "Ini_Jeu": every rate above 0 and within its bounds.
+void Verifier_Ini_Jeu(Problemes& problemes);
+
+// The remembered set-up of "Ini_Partie": presets, sliders within their limits, lists within
+// their entries, at least two fiefs and two teams. Needs the rule book for the counts of
+// peoples and epochs.
+void Verifier_Ini_Partie(Problemes& problemes);

@@ -1,0 +1,37 @@
+// The world in memory: every global that the rules share. A reference from one record to
+// another is always an index into these arrays. Persos, Maisons, EffetsPersos and
+// EffetsMaisons have the same bounds (character i owns house slot i and effect slot i);
+// Fiefs and Chateaux too (fief f owns castle f).
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "characters/ClsJeuEffet.h"
+#include "characters/ClsJeuPerso.h"
+#include "world/ClsJeu.h"
+#include "world/ClsJeuBatiment.h"
+#include "world/ClsJeuFief.h"
+#include "world/ClsJeuMonde.h"
+#include "world/ClsJeuRessources.h"
+
+extern ClsJeuMonde Monde;
+extern std::vector<ClsJeuFief> Fiefs;
+extern std::vector<ClsJeuPerso> Persos;
+extern std::vector<ClsJeuEffet> EffetsPersos;
+extern std::vector<ClsJeuEffet> EffetsMaisons;
+extern int32_t PersoActif;
+extern std::vector<ClsJeuBatiment> Chateaux;
+extern std::vector<ClsJeuBatiment> Maisons;
+extern std::vector<ClsJeuRessources> Ressources;
+extern ClsJeu Jeu;
+extern bool FinPartie, Victoire, Defaite;
+
+// Erases the world arrays when a game ends.
+void Vider_Monde();
+
+// Puts every world global back as a fresh process has it.
+void Reinitialiser_Monde();
+
+// Hash of every record of the world.
+void Empreindre_Monde(Empreinte& e);
