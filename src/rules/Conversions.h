@@ -42,7 +42,8 @@ bool Souple_Booleen(std::string_view texte);
 // reals with the shortest form that reads back to the same value.
 std::string Texte_Nombre(double x);
 
-// Numbered records: "Ressource_" + 12 -> "Ressource_12"; numbered keys: "PrixRessources(" 3 ")".
+// Numbered records: ("Ressource_", 12) -> "Ressource_12"; numbered keys: ("PrixRessources", 3)
+// -> "PrixRessources(3)".
 std::string Section_Numerotee(std::string_view prefixe, int numero);
 std::string Cle_Numerotee(std::string_view prefixe, int numero);
 
