@@ -23,6 +23,8 @@ public:
 
     // Game folder / Fichier + Extension.
     std::filesystem::path Chemin() const;
+    // Where a write puts the new text before renaming it over Chemin(): a hidden file beside it.
+    std::filesystem::path Chemin_Temporaire() const;
 };
 
 // Longest value a read gives back.
