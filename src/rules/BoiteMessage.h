@@ -16,6 +16,7 @@ using AfficheurMessage =
 ReponseMessage Boite_Message(std::string_view titre, std::string_view texte,
                              GenreMessage genre = GenreMessage::Information,
                              BoutonsMessage boutons = BoutonsMessage::OK);
+// An empty afficheur puts the stderr one back.
 void Definir_Afficheur_Message(AfficheurMessage afficheur);
 
 // The afficheur used without a display: writes to stderr, answers OK / Oui.
