@@ -11,9 +11,7 @@ int main(int argc, char** argv) {
     if (argc > 1) dossier = argv[1];
     if (!Trouver_Dossier_Jeu(dossier)) return 1;
 
-    Problemes problemes;
-    Verifier_Ini_Jeu(problemes);
-    Verifier_Ini_Partie(problemes);
+    const Problemes problemes = Verifier_Dossier_Jeu();
     for (const std::string& p : problemes) std::cout << p << '\n';
     return problemes.empty() ? 0 : 1;
 }

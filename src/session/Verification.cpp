@@ -5,6 +5,7 @@
 #include "rules/ClsFicINI.h"
 #include "rules/ClsJeuParam.h"
 #include "rules/Conversions.h"
+#include "rules/VerificationParam.h"
 
 namespace {
 
@@ -136,4 +137,16 @@ void Verifier_Ini_Partie(Problemes& problemes) {
     Verifier_Monde(c);
     Verifier_Fiefs(c);
     Verifier_Armees(c);
+}
+
+Problemes Verifier_Dossier_Jeu() {
+    Problemes problemes = Verifier_Param();
+    const bool reglesSaines = problemes.empty();
+    Verifier_Ini_Jeu(problemes);
+    if (reglesSaines) {
+        Param.Reinitialiser();
+        for (int groupe = 0; groupe < 7; ++groupe) Param.Init(groupe);
+        Verifier_Ini_Partie(problemes);
+    }
+    return problemes;
 }

@@ -7,6 +7,10 @@
 
 using Problemes = std::vector<std::string>;
 
+// Every check of the game folder (Dossier_Jeu). The set-up of "Ini_Partie" is checked
+// against the rule book only when the rule files themselves are sound.
+Problemes Verifier_Dossier_Jeu();
+
 // The pace of "Ini_Jeu": every rate above 0 and within its bounds.
 void Verifier_Ini_Jeu(Problemes& problemes);
 
