@@ -64,7 +64,7 @@ void Ecrire_Etat(std::ostream& sortie) {
     }
     for (std::size_t k = 0; k < Ressources.size(); ++k) {
         const ClsJeuRessources& g = Ressources[k];
-        sortie << "gisement=" << k << " type=" << g.Type << " x=" << g.PositionX << " y=" << g.PositionY
+        sortie << "gisement=" << k << " type=" << g.TypeTerrain << " x=" << g.PositionX << " y=" << g.PositionY
                << " quantite=" << Texte_Nombre(g.Quantite) << '\n';
     }
 }
