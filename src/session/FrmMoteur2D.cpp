@@ -62,6 +62,7 @@ void FrmMoteur2D::Tour() {
 void FrmMoteur2D::Rendu() {
     ++NombreImages;
     Mesurer_FPS();
+    Expirer_Commentaires(TempsCourant);
     P.Ecran.Presenter_Image();
     P.Ecran.Pomper_Evenements();
     DernierTemps = TempsCourant;

@@ -10,6 +10,7 @@ std::vector<ClsJeuBatiment> Chateaux;
 std::vector<ClsJeuBatiment> Maisons;
 std::vector<ClsJeuRessources> Ressources;
 ClsJeu Jeu;
+ClsJeuCommentaires Commentaires;
 bool FinPartie = false, Victoire = false, Defaite = false;
 
 void Vider_Monde() {
@@ -27,6 +28,7 @@ void Reinitialiser_Monde() {
     EffetsMaisons.clear();
     PersoActif = 0;
     Jeu = ClsJeu{};
+    Commentaires = ClsJeuCommentaires{};
     FinPartie = Victoire = Defaite = false;
 }
 

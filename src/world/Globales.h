@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "characters/ClsJeuCommentaires.h"
 #include "characters/ClsJeuEffet.h"
 #include "characters/ClsJeuPerso.h"
 #include "world/ClsJeu.h"
@@ -25,6 +26,7 @@ extern std::vector<ClsJeuBatiment> Chateaux;
 extern std::vector<ClsJeuBatiment> Maisons;
 extern std::vector<ClsJeuRessources> Ressources;
 extern ClsJeu Jeu;
+extern ClsJeuCommentaires Commentaires;   // the phrase book, read once at start
 extern bool FinPartie, Victoire, Defaite;
 
 // Erases the world arrays when a game ends.
