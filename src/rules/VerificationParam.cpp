@@ -2,6 +2,7 @@
 
 #include "rules/ClsJeuParam.h"
 #include "rules/ClsJeuParamLecteur.h"
+#include "rules/ControleRegles.h"
 #include "rules/Conversions.h"
 
 namespace {
@@ -43,5 +44,6 @@ std::vector<std::string> Verifier_Param() {
     for (int groupe = 0; groupe < NombreGroupes; ++groupe) param.Init(groupe, rapport);
     rapport.Verifier_Renvois(param);
     Verifier_Besoins(param, rapport);
+    Controler_Regles(param, rapport);
     return std::move(rapport.Problemes);
 }
