@@ -1,13 +1,20 @@
-// The one record behind every living thing: villager, soldier, hero or monster.
+// The one record behind every living thing: villager, soldier, hero or monster. Gauges
+// are written only through their Definir_* operation, which limits the value and turns
+// every loss into experience, so a character grows by being used.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <string>
 #include <vector>
 
+#include "characters/ClsJeuObjet.h"
+#include "characters/Jauge.h"
 #include "rules/Empreinte.h"
 
 class ClsJeuParam;
+class ClsJeuFief;
+class ClsJeuBatiment;
 
 // Every character stands in a box of 24 × 32 metres.
 inline constexpr int32_t LargeurPerso = 24;
@@ -15,52 +22,207 @@ inline constexpr int32_t HauteurPerso = 32;
 
 class ClsJeuPerso {
 public:
+    // Place and movement
+    int32_t PositionX = 0, PositionY = 0;
+    int32_t VitesseBase = 0, Vitesse = 0;
+    int16_t EtapeAnimation = 0;
+    int16_t ApparenceBase = 0;
+    int32_t DestinationX = 0, DestinationY = 0;
+
     // Identity and side
     int32_t Numero = 0;          // own index in Persos
     std::string Nom;
     int32_t Joueur = 0;          // above 0 for a hero kept in a character file
     int32_t Fief = 0;
     int32_t Equipe = 0;
+    int32_t Chef = -1;           // the character it follows; an invocation has one
+    int32_t DecalageChefX = 0, DecalageChefY = 0;
+    int16_t Attitude = 0, Formation = 0, Reserve = 0;
+    int32_t NombreInvocations = 0;
     int16_t Peuple = 0;          // 0 human, anything else a monster people
-    bool Feminin = false;
-
-    // Looks
-    int16_t ApparenceBase = 0;
+    int16_t Monstre = 0;         // monster type + 1, 0 for none
+    bool Parole = true, Volant = false;
     bool ApparenceFichier = false;
     std::string FichierApparence;
+    int16_t Grade = 0;
+    bool Feminin = false;
+    bool Progresse = true;
+    double CompteResurrection = 0;
+    double DateCommentaire = 0;
 
-    // Place and targets
-    int32_t PositionX = 0, PositionY = 0;
-    int32_t DestinationX = 0, DestinationY = 0;
-    int32_t PersoCible = 0, MaisonCible = 0, RessourceCible = 0, ChateauCible = 0;
-    int32_t Chef = -1;
-    int16_t ObjetUtilise = -1;
+    // Gauges
+    Jauge Vie, Energie, Magie, Moral, Attaque, Defense;
+    int16_t PorteeAttaqueBase = 0, EffetAttaqueBase = 0;
+    bool Kamikaze = false, AttaqueImmediate = false;
+    int16_t PerteRessourceIndice = 0;
+    double PerteRessourceQuantite = 0;
+    int16_t ArmureBase = 0;
 
     // Behaviour
     bool ModeAuto = false;
     bool IA = false;
+    bool IA_Equiper = true, IA_Manger = true, IA_Pacifique = false, IA_Temeraire = false, IA_Berserk = false;
     std::string FichierIA;
     int16_t EtapeIA = 0;
-    bool Parole = true, Progresse = true, Volant = false, Kamikaze = false;
-    bool IA_Equiper = true, IA_Manger = true, IA_Pacifique = false, IA_Temeraire = false, IA_Berserk = false;
+    bool EstActif = false;
 
-    // Goods
+    // Action and targets
+    int16_t Direction = 0;
+    bool EnMouvement = false;
+    double DureeImmobilisation = 0;
+    bool DansMaison = false, DansSaMaison = false, DansChateau = false, DansSonChateau = false;
+    int32_t MaisonCible = 0, RessourceCible = 0, ChateauCible = 0, PersoCible = 0;
+    int32_t RessourceRecoltee = -1;
+    int32_t ServiceEnCours = 0;
+    int32_t NiveauObjetsDepart = 0;
+    int16_t ObjetFabrique = 0;
+    double ProgressionFabrication = 0;
+    int16_t ObjetUtilise = -1;
+    double CoefForme = 1;
+    int32_t LongueurPas = 0;
+    int32_t Apparence = 0;
+    std::string Commentaire;
+
+    // Effective values with objects
+    int16_t SurfaceAttaqueBase = 0, SurfaceAttaque = 0;
+    int16_t PorteeAttaque = 0;
+    double SeuilsArme[4] = {0, 0, 0, 0};   // health, energy, magic, morale paid per blow
+    int16_t Armure = 0;
+
+    // Goods and growth
     double Argent = 0;
-    std::vector<double> Ressources;   // carried quantities, one per resource
+    std::vector<double> Ressources;                  // carried, one per resource
+    int32_t BonusMaxRessources = 0;
+    std::vector<Competence> CompetencesSpeciales;    // 0 building, 1 attacking buildings, 2 hard blows, 3 bargaining
+    std::vector<Competence> CompetencesRessources;   // Valeur is the carrying capacity
+    std::vector<Competence> CompetencesServices;     // entry k belongs to service k + 1
+    std::vector<Competence> CompetencesObjets;
+    std::vector<ClsJeuObjet> ObjetsEquipes;
+    std::vector<ClsJeuObjet> ObjetsInventaire;
+    std::vector<int32_t> Bestiaire;                  // kills by Monstre value
 
     void Init(int32_t numero, const ClsJeuParam& param);
+
+    // Gauges: the read gives what the interface shows (gauge plus reserve, within the
+    // maximum; the gauge itself for attack and defence), the write applies the rules.
+    double Definir_Vie() const { return Montre(Vie); }
+    double Definir_Energie() const { return Montre(Energie); }
+    double Definir_Magie() const { return Montre(Magie); }
+    double Definir_Moral() const { return Montre(Moral); }
+    double Definir_Attaque() const { return Attaque.Valeur; }
+    double Definir_Defense() const { return Defense.Valeur; }
+    void Definir_Vie(double v);
+    void Definir_Energie(double v);
+    void Definir_Magie(double v);
+    void Definir_Moral(double v);
+    void Definir_Attaque(double v);
+    void Definir_Defense(double v);
+
+    // Maxima: the read is the effective maximum, the write sets the base (rounded).
+    int32_t Definir_MaxVie() const { return Vie.Max; }
+    int32_t Definir_MaxEnergie() const { return Energie.Max; }
+    int32_t Definir_MaxMagie() const { return Magie.Max; }
+    int32_t Definir_MaxMoral() const { return Moral.Max; }
+    int32_t Definir_MaxAttaque() const { return Attaque.Max; }
+    int32_t Definir_MaxDefense() const { return Defense.Max; }
+    void Definir_MaxVie(double v);
+    void Definir_MaxEnergie(double v);
+    void Definir_MaxMagie(double v);
+    void Definir_MaxMoral(double v);
+    void Definir_MaxAttaque(double v);
+    void Definir_MaxDefense(double v);
+
+    int32_t Definir_BonusVie() const { return Vie.Bonus(); }
+    int32_t Definir_BonusEnergie() const { return Energie.Bonus(); }
+    int32_t Definir_BonusMagie() const { return Magie.Bonus(); }
+    int32_t Definir_BonusMoral() const { return Moral.Bonus(); }
+    int32_t Definir_BonusAttaque() const { return Attaque.Bonus(); }
+    int32_t Definir_BonusDefense() const { return Defense.Bonus(); }
+    int32_t Definir_BonusDeplacement() const { return Vitesse - VitesseBase; }
+    int16_t Definir_PorteeAttaque() const { return PorteeAttaque; }
+    int16_t Definir_Armure() const { return Armure; }
+
+    double Definir_Argent() const { return Argent; }
+    void Definir_Argent(double valeur);
+    // Carried resource r, 0 for r below 0; a write is limited to 0 and the capacity.
+    double Definir_Ressources(int r) const;
+    void Definir_Ressources(int r, double quantite);
+    // Capacity for resource r with objects, 0 for r below 0; the write sets the base.
+    int32_t Definir_MaxRessources(int r) const;
+    void Definir_MaxRessources(int r, double valeur);
+
+    double Definir_DureeImmobilisation() const { return DureeImmobilisation; }
+    void Definir_DureeImmobilisation(double duree);
+
+    const std::string& Definir_Commentaires() const { return Commentaire; }
+    void Definir_Commentaires(const std::string& texte);
+
+    bool Vivant() const { return Vie.Valeur > 0; }
+    // False kills, true brings back; the fief (or the chief of an invocation) keeps count.
+    void Vivant(bool vivant);
+    bool Visible() const { return !(DansMaison || DansSaMaison || DansChateau || DansSonChateau); }
+    void Visible(bool visible) { DansMaison = DansSaMaison = DansChateau = DansSonChateau = !visible; }
+    bool Attaquable() const { return Vivant() && Visible(); }
+    bool Invocation() const { return Chef >= 0; }
+    bool Inactif() const { return CodeAction == 0 || CodeAction == 100; }
+    bool EnCombat() const { return CodeAction >= 300 && CodeAction <= 399; }
+    int16_t Effet_Attaque(const ClsJeuParam& param) const;
 
     // Current action as its numeric code.
     int16_t Definir_Action() const { return CodeAction; }
     void Definir_Action(int16_t code) { CodeAction = code; }
+    // Stands still where it is: at rest at home, else waiting.
+    void Arreter();
 
-    double Definir_Argent() const { return Argent; }
-    void Definir_Argent(double valeur);
-    double Definir_Ressources(int r) const;
-    void Definir_Ressources(int r, double quantite);
+    // Effective values from the base ones, then with what is worn.
+    void Ajuster_Bonus();
+    void Actualiser_Bonus(const ClsJeuParam& param);
+    int32_t Objet_Equipe_BonusSup(int competence, double valeur) const;
+
+    // Health, energy, magic and morale flow in from their reserves; attack and defence
+    // charge; the dead come back in their own castle. Every tick, after Deplacement.
+    void Recuperation(ClsJeuFief& fief);
+    void Calculer_CoefForme();
+
+    void Changer_Race(int16_t peuple, const ClsJeuParam& param, int16_t grade, int16_t monstre, bool conserver);
+    void Calculer_Apparence(const ClsJeuBatiment& maison, const ClsJeuParam& param);
+    void Changer_Attitude() { Attitude = static_cast<int16_t>((Attitude + 1) % 2); }
+    void Changer_Formation() { Formation = static_cast<int16_t>((Formation + 1) % 5); }
+
+    // Objects carried and worn.
+    bool Inventaire_Plein() const;
+    // Puts a new object into the first empty inventory slot (lost if there is none), and
+    // wears it at once when asked, if it is worn and fits without removing anything.
+    void Objet_Ajouter_Inventaire(int16_t type, const ClsJeuParam& param, bool equiper);
+    bool Objet_Emplacement_Libre(int16_t type, const ClsJeuParam& param) const;
+    // Wears the worn object of an inventory slot, making room as its category says.
+    void Objet_Porter(int slot, const ClsJeuParam& param);
+
+    // Levels and competences.
+    void Ajouter_Experience(int32_t& valeur, double gain, double& exp, int32_t& compte, double& bas,
+                            double& haut, GenreExperience genre);
+    void Gestion_Tous_Niveaux();
+    void Gestion_Niveau_Comp_Speciale(int k, double montant, const ClsJeuParam& param);
+    void Gestion_Niveau_Prime(double montant, const ClsJeuParam& param);
+    int16_t Definir_Niveau_CompetenceSpeciales(int k) const { return Effectif(CompetencesSpeciales, k); }
+    int16_t Definir_Niveau_CompetenceRessources(int r) const { return Effectif(CompetencesRessources, r); }
+    int16_t Definir_Niveau_CompetenceServices(int s) const { return Effectif(CompetencesServices, s); }
+    int16_t Definir_Niveau_CompetenceObjets(int k) const { return Effectif(CompetencesObjets, k); }
+    bool Bonus_CompetenceSpeciales(int k) const;
+    bool Bonus_CompetenceServices(int s) const;
+    // The bargained price of something worth prix: unchanged at the starting level, tending
+    // to half as bargaining grows.
+    int16_t Prix_Marchandee(double prix, const ClsJeuParam& param) const;
 
     void Empreindre(Empreinte& e) const;
 
 private:
     int16_t CodeAction = 0;
+
+    double Montre(const Jauge& j) const { return std::min(static_cast<double>(j.Max), j.Valeur + j.Reserve); }
+    static int16_t Effectif(const std::vector<Competence>& table, int i) {
+        return static_cast<int16_t>(table[static_cast<std::size_t>(i)].Effectif);
+    }
+    using BonusObjet = int16_t (ClsJeuParam::*)(int) const;
+    void Gagner_Experience(Jauge& j, double gain, GenreExperience genre, BonusObjet bonus, double gainObjet);
 };

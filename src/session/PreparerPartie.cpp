@@ -52,7 +52,9 @@ void Repartir_Villageois(const ChoixPartie& choix) {
             restants = choix.Fiefs[static_cast<std::size_t>(fief)].Sujets;
         }
         --restants;
+        if (i == PersoActif) continue;
         Creer_Perso(i, fief);
+        Persos[static_cast<std::size_t>(i)].Changer_Race(Fiefs[static_cast<std::size_t>(fief)].Peuple, Param, -1, -1, false);
     }
 }
 
@@ -112,9 +114,17 @@ void Placer_Soldat(ClsJeuPerso& p, int32_t i, int32_t n0, int32_t n1, int32_t li
         p.PersoCible = i + n0;
         while (p.PersoCible >= n0 + n1) p.PersoCible -= n1;
     }
+    const int16_t peuple = Fiefs[static_cast<std::size_t>(p.Fief)].Peuple;
+    if (peuple > 0) p.Changer_Race(peuple, Param, -1, -1, false);
     p.Definir_Action(300);
     p.DestinationX = p.PositionX;
     p.DestinationY = p.PositionY;
+    if (i != PersoActif) {
+        p.Gestion_Tous_Niveaux();
+        p.Ajuster_Bonus();
+    }
+    p.Definir_Attaque(p.Definir_MaxAttaque());
+    p.Definir_Defense(p.Definir_MaxDefense());
 }
 
 // The hero takes the place of the soldier in the middle of army 0, and the targets that

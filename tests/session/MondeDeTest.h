@@ -1,10 +1,12 @@
-// A small world set-up shared by the session tests: a fresh process state, a game folder
-// with "Ini_Jeu" at 40/40, and the active hero of the dialog.
+// A small world set-up shared by the session tests: a fresh process state with the default
+// rules, a game folder with "Ini_Jeu" at 40/40, and the active hero of the dialog.
 #pragma once
 
 #include <gtest/gtest.h>
 
 #include "Support.h"
+#include "rules/Chemins.h"
+#include "rules/ClsJeuParam.h"
 #include "rules/Horloge.h"
 #include "session/ChoixPartie.h"
 #include "session/ModMain.h"
@@ -17,6 +19,9 @@ protected:
 
     void SetUp() override {
         Reinitialiser_Globales();
+        Definir_Dossier_Jeu(KORVALIS_DATA);
+        for (int groupe = 0; groupe < 7; ++groupe) Param.Init(groupe);
+        Definir_Dossier_Jeu(dossier.Chemin());
         Piloter_Horloge(0);
         dossier.Ecrire("Ini_Jeu.ini", "[Vitesse]\nFPS=40\nFPSMin=10\nFPSMax=100\nVitesse=40\nVitesseMin=10\nVitesseMax=100\n");
         Jeu.Charger();

@@ -45,7 +45,7 @@ TEST_F(PreparerPartie, UnNombreDeGisementsDeZeroDonneUnGisement) {
 }
 
 TEST_F(PreparerPartie, LeChoixAleatoireDuPeupleCouvreTousLesPeuplesDontLesHumains) {
-    Param.NombrePeuples = 6;
+    ASSERT_EQ(Param.NombrePeuples, 6);
     std::set<int16_t> vus;
     for (int essai = 0; essai < 200; ++essai) {
         Creer_Heros_Actif();
