@@ -65,6 +65,7 @@ void Demarrer_Programme(PeripheriqueFenetre& fenetre) {
     Legende(fenetre, " - chargement jeu");
     Jeu.Charger();
     Legende(fenetre, " - chargement messages");
+    Commentaires.Charger();
     Legende(fenetre, " - chargement affichage");
     Legende(fenetre, " - chargement périphériques");
     Legende(fenetre, " - chargement interface");
