@@ -5,6 +5,7 @@
 #include "ai/ModIA2.h"
 #include "rules/Horloge.h"
 #include "session/PreparerPartie.h"
+#include "world/GestionFiefs.h"
 #include "world/Globales.h"
 
 bool Periode_Ecoulee(float ecart, int16_t rythme) {
@@ -55,7 +56,10 @@ void FrmMoteur2D::Lire_Peripheriques() {
     SourisZ = 0;
 }
 
+// One tick of the world: Executer_IA, Gerer_Fiefs, Centrer_Camera, Deplacer_Persos and
+// Appliquer_Objets_Utilises, in that order.
 void FrmMoteur2D::Tour() {
+    Gerer_Fiefs();
     ++NombreTours;
 }
 
@@ -82,7 +86,7 @@ void FrmMoteur2D::Mesurer_FPS() {
 void FrmMoteur2D::Verifier_Fin() {
     const ClsJeuPerso& heros = Persos[static_cast<std::size_t>(PersoActif)];
     auto debout = [](std::size_t f) {
-        return Chateaux[f].Visible || Fiefs[f].NombreMorts < Fiefs[f].NombreSujets;
+        return Chateaux[f].Visible() || Fiefs[f].NombreMorts < Fiefs[f].NombreSujets;
     };
     Victoire = true;
     for (std::size_t f = 0; f < Fiefs.size(); ++f) {

@@ -100,7 +100,7 @@ TEST_F(BoucleDeJeu, VictoireEtDefaiteSuiventLesChateauxEtLesMorts) {
 
 TEST_F(BoucleDeJeu, LeFiefDuHerosTombeEtLaPartieEstPerdue) {
     Ouvrir();
-    Chateaux[1].Visible = true;
+    Chateaux[1].Vie = 1;   // the enemy castle stands
     Fiefs[0].NombreMorts = Fiefs[0].NombreSujets;
     Passes(1, 0.05f);
     EXPECT_FALSE(Victoire);
