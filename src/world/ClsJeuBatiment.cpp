@@ -18,6 +18,10 @@ void Ajouter_Ressource(ClsJeuPerso& perso, int r, double q) {
 
 void Ajouter_Argent(ClsJeuPerso& perso, double q) { perso.Definir_Argent(perso.Definir_Argent() + q); }
 
+int16_t Prix_Service(const ClsJeuPerso& perso, int16_t service, const ClsJeuParam& param) {
+    return perso.Prix_Marchandee(param.Service_Prix(service), param);
+}
+
 }  // namespace
 
 void ClsJeuBatiment::Creer(int32_t x, int32_t y, int16_t type, ClsJeuPerso& constructeur,
@@ -171,12 +175,6 @@ void ClsJeuBatiment::Acheter(double q, ClsJeuPerso& perso, const ClsJeuParam& pa
     Argent += p;
     perso.Gestion_Niveau_Comp_Speciale(3, p, param);
 }
-
-namespace {
-int16_t Prix_Service(const ClsJeuPerso& perso, int16_t service, const ClsJeuParam& param) {
-    return perso.Prix_Marchandee(param.Service_Prix(service), param);
-}
-}  // namespace
 
 // The owner uses its own service for nothing; resurrection (service 1) is for the dead only.
 bool ClsJeuBatiment::Service_Utilisable(const ClsJeuPerso& perso, const ClsJeuParam& param) const {
