@@ -60,13 +60,19 @@ void FrmMoteur2D::Lire_Peripheriques() {
 // Appliquer_Objets_Utilises, in that order.
 void FrmMoteur2D::Tour() {
     Gerer_Fiefs();
+    Deplacer_Persos();
     ++NombreTours;
+}
+
+// Every character in index order: what it does this tick, then its recovery.
+void Deplacer_Persos() {
+    for (ClsJeuPerso& p : Persos) p.Recuperation(Fiefs[static_cast<std::size_t>(p.Fief)]);
 }
 
 void FrmMoteur2D::Rendu() {
     ++NombreImages;
-    Mesurer_FPS();
     Expirer_Commentaires(TempsCourant);
+    Mesurer_FPS();
     P.Ecran.Presenter_Image();
     P.Ecran.Pomper_Evenements();
     DernierTemps = TempsCourant;

@@ -48,6 +48,9 @@ private:
     void Verifier_Fin();
 };
 
+// One tick of all characters.
+void Deplacer_Persos();
+
 // True when the time since the last render has passed one period of the rate; the negative
 // limb catches the clock wrapping at midnight.
 bool Periode_Ecoulee(float ecart, int16_t rythme);
