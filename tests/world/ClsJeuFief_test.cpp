@@ -2,37 +2,43 @@
 // one epoch to the next.
 #include <gtest/gtest.h>
 
+#include <initializer_list>
+#include <utility>
+
 #include "MondeRegles.h"
 #include "world/ClsJeuFief.h"
 #include "world/GestionFiefs.h"
 
 namespace {
 
+// The market holds 5 of every resource but the ones named.
+void Stocks(ClsJeuFief& f, std::initializer_list<std::pair<int, double>> autres) {
+    f.Ressources.assign(f.Ressources.size(), 5);
+    for (const auto& [r, q] : autres) f.Ressources[static_cast<std::size_t>(r)] = q;
+}
+
 using Marche = MondeRegles;
 
 TEST_F(Marche, VendreDonneLePrixDeVenteParUniteEntiere) {
     ClsJeuFief& f = Fiefs[0];
-    ClsJeuPerso& p = Perso(0, 0, 10);
+    ClsJeuPerso& p = Perso(0, 10);
     p.Argent = 0;
-    f.Vendre(Bois, 4.7, p, Param, false);   // Bois sells for 3
+    f.Vendre(Bois, 4.7, p, Param, false);   // Bois sells for 2
     EXPECT_DOUBLE_EQ(p.Definir_Ressources(Bois), 6);
     EXPECT_DOUBLE_EQ(f.Definir_Ressources(Bois), 4);
-    EXPECT_DOUBLE_EQ(p.Argent, 12);
-
+    EXPECT_DOUBLE_EQ(p.Argent, 8);
     f.Vendre(Bois, 0.5, p, Param, false);   // half a unit sells nothing
     EXPECT_DOUBLE_EQ(p.Definir_Ressources(Bois), 6);
-    EXPECT_DOUBLE_EQ(f.Definir_Ressources(Bois), 4);
-    EXPECT_DOUBLE_EQ(p.Argent, 12);
-
+    EXPECT_DOUBLE_EQ(p.Argent, 8);
     f.Vendre(Bois, 50, p, Param, false);   // no more than carried
     EXPECT_DOUBLE_EQ(p.Definir_Ressources(Bois), 0);
     EXPECT_DOUBLE_EQ(f.Definir_Ressources(Bois), 10);
-    EXPECT_DOUBLE_EQ(p.Argent, 30);
+    EXPECT_DOUBLE_EQ(p.Argent, 20);
 
-    Perso(0, 0, 0, 2.5);
+    p.Definir_Ressources(Planches, 2.5);
     f.Vendre(Planches, 0, p, Param, true);
     EXPECT_DOUBLE_EQ(p.Definir_Ressources(Planches), 0.5);
-    EXPECT_DOUBLE_EQ(p.Argent, 46);
+    EXPECT_DOUBLE_EQ(p.Argent, 36);
 }
 
 TEST_F(Marche, AcheterCouteLePrixDeVenteFoisLeCoefficient) {
@@ -40,16 +46,14 @@ TEST_F(Marche, AcheterCouteLePrixDeVenteFoisLeCoefficient) {
     f.Definir_Ressources(Bois, 10);
     ClsJeuPerso& p = Perso(0);
     p.Argent = 20;
-    f.Acheter(Bois, 3, p, Param, false);   // 3 × 1.5 = 4.5 a unit
+    f.Acheter(Bois, 3, p, Param, false);   // 2 × 1.5 = 3 a unit
     EXPECT_DOUBLE_EQ(p.Definir_Ressources(Bois), 3);
     EXPECT_DOUBLE_EQ(f.Definir_Ressources(Bois), 7);
-    EXPECT_DOUBLE_EQ(p.Argent, 6.5);
-
-    p.Argent = 10;
-    f.Acheter(Bois, 5, p, Param, false);   // 10 buys 2
+    EXPECT_DOUBLE_EQ(p.Argent, 11);
+    p.Argent = 7;
+    f.Acheter(Bois, 5, p, Param, false);   // 7 buys 2
     EXPECT_DOUBLE_EQ(p.Definir_Ressources(Bois), 5);
     EXPECT_DOUBLE_EQ(p.Argent, 1);
-
     p.Argent = 0;
     f.Acheter(Bois, 5, p, Param, true);
     EXPECT_DOUBLE_EQ(p.Definir_Ressources(Bois), 5);
@@ -60,79 +64,59 @@ TEST_F(Marche, AcheterCouteLePrixDeVenteFoisLeCoefficient) {
     f.Acheter(Bois, 0, p, Param, true);   // the stock has one whole unit
     EXPECT_DOUBLE_EQ(p.Definir_Ressources(Bois), 6);
     EXPECT_DOUBLE_EQ(f.Definir_Ressources(Bois), 0.5);
-    EXPECT_DOUBLE_EQ(p.Argent, 95.5);
-}
+    EXPECT_DOUBLE_EQ(p.Argent, 97);
 
-TEST_F(Marche, LaPlaceSeMesureSurCeQuiEstPorteExactement) {
-    ClsJeuFief& f = Fiefs[0];
+    Perso(0, 19.5);   // room is measured on what is carried, exactly: 0.5 buys nothing
     f.Definir_Ressources(Bois, 10);
-    ClsJeuPerso& p = Perso(0, 0, 19.5);
-    p.Argent = 100;
-    f.Acheter(Bois, 3, p, Param, false);   // room 0.5: nothing
+    f.Acheter(Bois, 3, p, Param, false);
     EXPECT_DOUBLE_EQ(p.Definir_Ressources(Bois), 19.5);
-    EXPECT_DOUBLE_EQ(f.Definir_Ressources(Bois), 10);
-    EXPECT_DOUBLE_EQ(p.Argent, 100);
-}
+    EXPECT_DOUBLE_EQ(p.Argent, 97);
 
-TEST_F(Marche, LeStockDuMarcheNeDescendPasSous0) {
-    ClsJeuFief& f = Fiefs[0];
-    f.Definir_Ressources(Bois, -4);
+    f.Definir_Ressources(Bois, -4);   // the stock never goes below 0
     EXPECT_DOUBLE_EQ(f.Definir_Ressources(Bois), 0);
     EXPECT_DOUBLE_EQ(f.Definir_Ressources(-1), 0);
 }
 
 using Transaction = MondeRegles;
 
-void Stocks(ClsJeuFief& f, double ble, double bois, double planches) {
-    f.Ressources = {ble, bois, planches};
-}
-
-TEST_F(Transaction, QuandToutEstEgalRienNeBouge) {
-    ClsJeuFief& f = Fiefs[0];
-    f.Epoque = 2;
-    Stocks(f, 5, 5, 5);
-    for (int t = 0; t < 100; ++t) f.Transaction_Ressources(Param);
-    EXPECT_EQ(f.Ressources, (std::vector<double>{5, 5, 5}));
-}
-
 TEST_F(Transaction, LePlusAbondantPasse002AuPlusRareDesEpoquesDuFief) {
     ClsJeuFief& f = Fiefs[0];
-    f.Epoque = 2;
-    Stocks(f, 3, 1.5, 1.9);   // equal whole stocks: the first is kept
-    f.Transaction_Ressources(Param);
-    EXPECT_DOUBLE_EQ(f.Ressources[Ble], 2.98);
-    EXPECT_DOUBLE_EQ(f.Ressources[Bois], 1.52);
-    EXPECT_DOUBLE_EQ(f.Ressources[Planches], 1.9);
+    f.Epoque = 4;
+    Stocks(f, {});
+    for (int t = 0; t < 100; ++t) f.Transaction_Ressources(Param);
+    EXPECT_EQ(f.Ressources, std::vector<double>(f.Ressources.size(), 5));
 
-    f.Epoque = 0;   // Planches belongs to a later epoch: it never gains
-    Stocks(f, 9, 5, 1);
+    Stocks(f, {{Bois, 3}, {Pierre, 3.9}, {Planches, 9}});   // equal whole stocks: the first is kept
     f.Transaction_Ressources(Param);
-    EXPECT_DOUBLE_EQ(f.Ressources[Ble], 8.98);
-    EXPECT_DOUBLE_EQ(f.Ressources[Bois], 5.02);
+    EXPECT_DOUBLE_EQ(f.Ressources[Bois], 3.02);
+    EXPECT_DOUBLE_EQ(f.Ressources[Pierre], 3.9);
+    EXPECT_DOUBLE_EQ(f.Ressources[Planches], 8.98);
+
+    f.Epoque = 0;   // Planches and Pain belong to the second epoch: they only lose
+    Stocks(f, {{Bois, 3}, {Planches, 1}, {Pain, 9}});
+    f.Transaction_Ressources(Param);
+    EXPECT_DOUBLE_EQ(f.Ressources[Bois], 3.02);
+    EXPECT_DOUBLE_EQ(f.Ressources[Pain], 8.98);
     for (int t = 0; t < 1000; ++t) f.Transaction_Ressources(Param);
     EXPECT_DOUBLE_EQ(f.Ressources[Planches], 1);
 }
 
-TEST_F(Transaction, UneRessourceDUneEpoqueLointainePerdMaisNeGagneQueSiCEstLaPremiere) {
+TEST_F(Transaction, LaPremiereRessourceGagneQuelleQueSoitSonEpoqueEtUnEcartDe002NeBougePas) {
+    regles.Modifier({FichierRessources, "Ressource_1", "Epoque"}, "3");
+    Param.Init(2);
     ClsJeuFief& f = Fiefs[0];
-    f.Epoque = 0;
-    Stocks(f, 1, 5, 9);   // Blé is Low by default, Planches High
+    Stocks(f, {{0, 1}, {Planches, 9}});
     f.Transaction_Ressources(Param);
-    EXPECT_DOUBLE_EQ(f.Ressources[Ble], 1.02);
-    EXPECT_DOUBLE_EQ(f.Ressources[Bois], 5);
+    EXPECT_DOUBLE_EQ(f.Ressources[0], 1.02);
     EXPECT_DOUBLE_EQ(f.Ressources[Planches], 8.98);
-}
 
-TEST_F(Transaction, UnEcartDe002OuMoinsNeBougePas) {
-    ClsJeuFief& f = Fiefs[0];
-    f.Epoque = 0;
-    Stocks(f, 5, 4.99, 0);   // Low Bois, High Blé, 0.01 apart
+    Stocks(f, {{Bois, 4.99}});   // Low Bois, High resource 0, 0.01 apart
     f.Transaction_Ressources(Param);
-    EXPECT_DOUBLE_EQ(f.Ressources[Ble], 5);
+    EXPECT_DOUBLE_EQ(f.Ressources[0], 5);
     EXPECT_DOUBLE_EQ(f.Ressources[Bois], 4.99);
-    Stocks(f, 5, 4.97, 0);
+    Stocks(f, {{Bois, 4.97}});
     f.Transaction_Ressources(Param);
-    EXPECT_DOUBLE_EQ(f.Ressources[Ble], 4.98);
+    EXPECT_DOUBLE_EQ(f.Ressources[0], 4.98);
     EXPECT_DOUBLE_EQ(f.Ressources[Bois], 4.99);
 }
 
@@ -142,20 +126,16 @@ TEST_F(Chateau, LaVieDuChateauSuitLesBonusDesEpoques) {
     ClsJeuFief& f = Fiefs[0];
     ClsJeuBatiment& c = Chateaux[0];
     Initialiser_Chateau(c, f, Param);
-    EXPECT_EQ(c.MaxVie, 550);
-    EXPECT_DOUBLE_EQ(c.Vie, 550);
+    EXPECT_EQ(c.MaxVie, 5000);
+    EXPECT_DOUBLE_EQ(c.Vie, 5000);
     EXPECT_TRUE(c.Termine);
-    EXPECT_EQ(c.Largeur, 96);
-    EXPECT_EQ(c.Hauteur, 80);
-
+    EXPECT_EQ(c.Largeur, 112);
     f.Epoque = 2;
     Initialiser_Chateau(c, f, Param);
-    EXPECT_EQ(c.MaxVie, 600);
-    EXPECT_DOUBLE_EQ(c.Vie, 600);
-
+    EXPECT_EQ(c.MaxVie, 10000);
     f.Peuple = 1;   // a monster fief has no epochs to its castle
     Initialiser_Chateau(c, f, Param);
-    EXPECT_EQ(c.MaxVie, 500);
+    EXPECT_EQ(c.MaxVie, 4000);
 }
 
 TEST_F(Chateau, LArgentDonneDevientDeLaVieA5ArgentLePoint) {
@@ -164,7 +144,6 @@ TEST_F(Chateau, LArgentDonneDevientDeLaVieA5ArgentLePoint) {
     Initialiser_Chateau(c, f, Param);
     ClsJeuPerso& p = Persos[0];
     p.Argent = 100;
-
     f.Restaurer_Chateau(50, p, false);   // a full castle: the gift waits
     f.Restauration(c);
     EXPECT_DOUBLE_EQ(f.TresorRestauration, 50);
@@ -172,29 +151,23 @@ TEST_F(Chateau, LArgentDonneDevientDeLaVieA5ArgentLePoint) {
     EXPECT_DOUBLE_EQ(p.Argent, 50);
 
     f.TresorRestauration = 0;
-    c.Definir_Vie(540);
+    c.Definir_Vie(4990);
     f.Restaurer_Chateau(5, p, false);
     f.Restauration(c);
     EXPECT_DOUBLE_EQ(c.ReserveVie, 1);
     EXPECT_NEAR(f.TresorRestauration, 0, 1e-12);
-    EXPECT_DOUBLE_EQ(p.Argent, 45);
 
     c.ReserveVie = 0;
     f.TresorRestauration = 100;
     f.Restauration(c);   // what is missing and one more
     EXPECT_NEAR(c.ReserveVie, 11, 1e-12);
     EXPECT_NEAR(f.TresorRestauration, 45, 1e-12);
-
     f.Restaurer_Chateau(1000, p, false);   // no more than it has
     EXPECT_DOUBLE_EQ(p.Argent, 0);
     EXPECT_NEAR(f.TresorRestauration, 90, 1e-12);
-    p.Argent = 7;
-    f.Restaurer_Chateau(1, p, true);
-    EXPECT_DOUBLE_EQ(p.Argent, 0);
-    EXPECT_NEAR(f.TresorRestauration, 97, 1e-12);
 }
 
-// Ticks of the world's fief step until the fief reaches the epoch or the limit runs out.
+// Ticks of the world's fief step until fief 0 reaches the epoch or the limit runs out.
 int Tours_Jusqu_A(int16_t epoque, int limite) {
     for (int t = 1; t <= limite; ++t) {
         Gerer_Fiefs();
@@ -209,41 +182,34 @@ TEST_F(Chateau, LEpoqueMonteQuandLeChateauAFiniDeGrandirEtJamaisAuDelaDeLaDernie
     Initialiser_Chateau(c, f, Param);
     f.Changer_Epoque(c, Param);
     EXPECT_TRUE(f.ChangementEpoque);
-    EXPECT_EQ(c.MaxVie, 570);
-    EXPECT_DOUBLE_EQ(c.ReserveVie, 21);
+    EXPECT_EQ(c.MaxVie, 7000);
+    EXPECT_DOUBLE_EQ(c.ReserveVie, 2001);
     f.Changer_Epoque(c, Param);   // one climb at a time
-    EXPECT_EQ(c.MaxVie, 570);
-    EXPECT_DOUBLE_EQ(c.ReserveVie, 21);
+    EXPECT_EQ(c.MaxVie, 7000);
 
-    EXPECT_EQ(Tours_Jusqu_A(1, 200), -1);   // about 10 × (20 + 1) ticks
-    EXPECT_EQ(f.Epoque, 0);
+    EXPECT_EQ(Tours_Jusqu_A(1, 20000), -1);   // about 10 × 2001 ticks
     const int reste = Tours_Jusqu_A(1, 20);
     EXPECT_GE(reste, 10);
     EXPECT_LE(reste, 12);
     EXPECT_FALSE(f.ChangementEpoque);
-    EXPECT_DOUBLE_EQ(c.Vie, 570);
+    EXPECT_DOUBLE_EQ(c.Vie, 7000);
 
+    f.Epoque = static_cast<int16_t>(Param.NombreEpoques - 1);   // the last epoch
     f.Changer_Epoque(c, Param);
-    EXPECT_EQ(c.MaxVie, 600);
-    EXPECT_GT(Tours_Jusqu_A(2, 400), 300);
-    f.Changer_Epoque(c, Param);   // the last epoch
     EXPECT_FALSE(f.ChangementEpoque);
-    EXPECT_EQ(c.MaxVie, 600);
-    EXPECT_DOUBLE_EQ(c.ReserveVie, 0);
-    Tours_Jusqu_A(3, 50);
-    EXPECT_EQ(f.Epoque, 2);
+    EXPECT_EQ(c.MaxVie, 7000);
 }
 
-TEST_F(Chateau, UnChateauTombeNeGranditPasEtFinitSaMonteeSIlSeReleve) {
+TEST_F(Chateau, UnChateauTombeNeMontePasEtFinitSaMonteeSIlSeReleve) {
     ClsJeuFief& f = Fiefs[0];
     ClsJeuBatiment& c = Chateaux[0];
     Initialiser_Chateau(c, f, Param);
     c.Definir_Vie(0);
     f.Changer_Epoque(c, Param);
     EXPECT_FALSE(f.ChangementEpoque);
-    EXPECT_EQ(c.MaxVie, 550);
+    EXPECT_EQ(c.MaxVie, 5000);
 
-    c.Definir_Vie(550);
+    c.Definir_Vie(5000);
     f.Changer_Epoque(c, Param);
     c.Definir_Vie(0);   // falls during the climb
     EXPECT_EQ(Tours_Jusqu_A(1, 50), -1);
@@ -256,14 +222,14 @@ TEST_F(Chateau, UnChateauTombeNeGranditPasEtFinitSaMonteeSIlSeReleve) {
 TEST_F(Chateau, GererFiefsTraiteChaqueFiefAvecSonChateauDansLOrdre) {
     for (std::size_t i = 0; i < Fiefs.size(); ++i) Initialiser_Chateau(Chateaux[i], Fiefs[i], Param);
     Fiefs[1].TresorRestauration = 5;
-    Chateaux[1].Definir_Vie(540);
-    Fiefs[1].Epoque = 2;
-    Stocks(Fiefs[1], 3, 1, 2);
+    Chateaux[1].Definir_Vie(4990);
+    Fiefs[1].Epoque = 4;
+    Stocks(Fiefs[1], {{Bois, 1}, {Pain, 9}});
     Gerer_Fiefs();
     EXPECT_NEAR(Chateaux[1].ReserveVie, 0.9, 1e-12);   // the gift, then the castle's first tenth
-    EXPECT_DOUBLE_EQ(Chateaux[1].Vie, 540.1);
+    EXPECT_DOUBLE_EQ(Chateaux[1].Vie, 4990.1);
     EXPECT_DOUBLE_EQ(Fiefs[1].Ressources[Bois], 1.02);
-    EXPECT_DOUBLE_EQ(Chateaux[0].Vie, 550);
+    EXPECT_DOUBLE_EQ(Chateaux[0].Vie, 5000);
     EXPECT_DOUBLE_EQ(Chateaux[0].ReserveVie, 0);
 
     // The fief looks at the reserve before the castle drops the last crumb: one tick more.

@@ -3,6 +3,7 @@
 #include <functional>
 #include <vector>
 
+#include "world/ClsJeuBatiment.h"
 #include "world/ClsJeuMonde.h"
 #include "world/ClsJeuRessources.h"
 
@@ -22,66 +23,39 @@ void Verifier_Empreinte(const std::vector<std::function<void(T&)>>& changements)
     for (std::size_t i = 0; i < changements.size(); ++i) {
         T x;
         changements[i](x);
-        EXPECT_NE(Empreinte_De(x), neuf) << "champ " << i;
+        EXPECT_NE(Empreinte_De(x), neuf) << typeid(T).name() << ", change " << i;
     }
 }
 
 }  // namespace
 
-TEST(Monde, UnMondeNeufAUneSeuleCaseLibre) {
-    const ClsJeuMonde monde;
-    EXPECT_EQ(monde.NombreCases(), 1);
-    EXPECT_EQ(monde.Type_Terrain(0), 0);
-    EXPECT_EQ(monde.Lire_Case(0), 0);
-}
-
-TEST(Monde, EcrireAuDelaDeLaFinAgranditLaGrille) {
+TEST(Monde, LaGrilleSAgranditALEcritureEtSeLitHorsDesBords) {
     ClsJeuMonde monde;
+    EXPECT_EQ(monde.NombreCases(), 1);   // a new world: one open cell
+    EXPECT_EQ(monde.Type_Terrain(0), 0);
     monde.Type_Terrain(0, 3);
     monde.Type_Terrain(10, 7);
     EXPECT_EQ(monde.NombreCases(), 11);
     EXPECT_EQ(monde.Type_Terrain(0), 3);   // kept
     for (int32_t i = 1; i < 10; ++i) EXPECT_EQ(monde.Type_Terrain(i), 0) << i;
     EXPECT_EQ(monde.Type_Terrain(10), 7);
-
     monde.Type_Terrain(4, 16);   // inside: no growth
     EXPECT_EQ(monde.NombreCases(), 11);
-    EXPECT_EQ(monde.Type_Terrain(4), 16);
 
-    // A generated grid of 4 × 3 holds (3 + 1) × (4 + 1) cells, more than it draws.
-    ClsJeuMonde genere;
-    genere.Largeur = 4;
-    genere.Hauteur = 3;
-    for (int32_t i = 0; i < 20; ++i) genere.Type_Terrain(i, 2 + i % 15);
-    EXPECT_EQ(genere.NombreCases(), 20);
-    EXPECT_EQ(genere.Type_Terrain(19), 2 + 19 % 15);
-}
-
-TEST(Monde, HorsDeLaGrilleLireCaseDonneUnMorceauAFaconner) {
-    ClsJeuMonde monde;
-    monde.Type_Terrain(5, 9);
+    // Outside the grid, a piece to shape.
     EXPECT_EQ(monde.Lire_Case(-1), 1);
-    EXPECT_EQ(monde.Lire_Case(-1000), 1);
-    EXPECT_EQ(monde.Lire_Case(6), 1);
-    EXPECT_EQ(monde.Lire_Case(5), 9);
-    EXPECT_EQ(monde.Lire_Case(0), 0);
+    EXPECT_EQ(monde.Lire_Case(11), 1);
+    EXPECT_EQ(monde.Lire_Case(10), 7);
 }
 
-TEST(Monde, UnSeulPasDeLigneSansBordure) {
-    ClsJeuMonde monde;
-    monde.Largeur = 5;
-    monde.Hauteur = 4;
-    EXPECT_EQ(monde.Indice_Case(0, 0), 0);
-    EXPECT_EQ(monde.Indice_Case(3, 2), 13);
-    // Left of column 0 is the last cell of the row above.
-    EXPECT_EQ(monde.Indice_Case(-1, 1), monde.Indice_Case(4, 0));
-}
-
-TEST(Monde, LaDiagonaleCompteSeizeMetresParCase) {
+TEST(Monde, UnSeulPasDeLigneEtSeizeMetresParCaseEnDiagonale) {
     ClsJeuMonde monde;
     EXPECT_EQ(monde.Longueur_Diagonale(), 0);
-    monde.Largeur = 3;
+    monde.Largeur = 5;
     monde.Hauteur = 4;
+    EXPECT_EQ(monde.Indice_Case(3, 2), 13);
+    EXPECT_EQ(monde.Indice_Case(-1, 1), monde.Indice_Case(4, 0));   // no border between rows
+    monde.Largeur = 3;
     EXPECT_EQ(monde.Longueur_Diagonale(), 80);
     monde.Largeur = 1;
     monde.Hauteur = 1;
@@ -91,16 +65,7 @@ TEST(Monde, LaDiagonaleCompteSeizeMetresParCase) {
     EXPECT_EQ(monde.Longueur_Diagonale(), 17889);   // 17888.54
 }
 
-TEST(Monde, LEmpreinteCouvreChaqueChamp) {
-    Verifier_Empreinte<ClsJeuMonde>({
-        [](ClsJeuMonde& m) { m.Largeur = 2; },
-        [](ClsJeuMonde& m) { m.Hauteur = 2; },
-        [](ClsJeuMonde& m) { m.Type_Terrain(0, 5); },
-        [](ClsJeuMonde& m) { m.Type_Terrain(1, 0); },
-    });
-}
-
-TEST(Ressources, VisibleTantQuIlResteQuelqueChose) {
+TEST(Monde, UnGisementEstVisibleTantQuIlResteQuelqueChose) {
     ClsJeuRessources gisement;
     EXPECT_FALSE(gisement.Visible());
     gisement.Quantite = 0.25;
@@ -109,14 +74,25 @@ TEST(Ressources, VisibleTantQuIlResteQuelqueChose) {
     EXPECT_FALSE(gisement.Visible());
 }
 
-TEST(Ressources, LEmpreinteCouvreChaqueChamp) {
-    Verifier_Empreinte<ClsJeuRessources>({
-        [](ClsJeuRessources& g) { g.PositionX = 1; },
-        [](ClsJeuRessources& g) { g.PositionY = 1; },
-        [](ClsJeuRessources& g) { g.Nom = "Forêt"; },
-        [](ClsJeuRessources& g) { g.TypeTerrain = 1; },
-        [](ClsJeuRessources& g) { g.TypeRessource = 1; },
-        [](ClsJeuRessources& g) { g.Quantite = 1; },
-        [](ClsJeuRessources& g) { g.QuantiteDepart = 1; },
-    });
+TEST(Monde, LEmpreinteCouvreChaqueChamp) {
+    using M = ClsJeuMonde;
+    Verifier_Empreinte<M>({[](M& m) { m.Largeur = 2; }, [](M& m) { m.Hauteur = 2; },
+                           [](M& m) { m.Type_Terrain(0, 5); }, [](M& m) { m.Type_Terrain(1, 0); }});
+    using R = ClsJeuRessources;
+    Verifier_Empreinte<R>({[](R& g) { g.PositionX = 1; }, [](R& g) { g.PositionY = 1; },
+                           [](R& g) { g.Nom = "Forêt"; }, [](R& g) { g.TypeTerrain = 1; },
+                           [](R& g) { g.TypeRessource = 1; }, [](R& g) { g.Quantite = 1; },
+                           [](R& g) { g.QuantiteDepart = 1; }});
+    using B = ClsJeuBatiment;
+    Verifier_Empreinte<B>({[](B& b) { b.Numero = 1; }, [](B& b) { b.PositionX = 1; },
+                           [](B& b) { b.PositionY = 1; }, [](B& b) { b.Largeur = 1; },
+                           [](B& b) { b.Hauteur = 1; }, [](B& b) { b.EntreePositionX = 1; },
+                           [](B& b) { b.EntreePositionY = 1; }, [](B& b) { b.Termine = true; },
+                           [](B& b) { b.EnConstruction = true; }, [](B& b) { b.Vie = 1; },
+                           [](B& b) { b.ReserveVie = 1; }, [](B& b) { b.MaxVie = 1; },
+                           [](B& b) { b.Argent = 1; }, [](B& b) { b.MaxStock = 1; },
+                           [](B& b) { b.Magasin = true; }, [](B& b) { b.Fabrique = true; },
+                           [](B& b) { b.Service = 1; }, [](B& b) { b.Type = 1; },
+                           [](B& b) { b.Stock = 1; }, [](B& b) { b.StockObjets.push_back(0); },
+                           [](B& b) { b.NumeroAnimation = 1; }});
 }
