@@ -110,13 +110,6 @@ int16_t ClsJeuPerso::Effet_Attaque(const ClsJeuParam& param) const {
     return arme >= 0 ? param.Objet_EffetAttaque(arme) : EffetAttaqueBase;
 }
 
-void ClsJeuPerso::Arreter() {
-    DestinationX = PositionX;
-    DestinationY = PositionY;
-    CodeAction = DansSaMaison ? 100 : 0;
-    RessourceRecoltee = -1;
-}
-
 // 16-bit result, as the bargaining arithmetic has always been.
 int16_t ClsJeuPerso::Prix_Marchandee(double prix, const ClsJeuParam& param) const {
     const double depart = param.PersosNiveauSpecialesDepart;
@@ -149,7 +142,8 @@ void ClsJeuPerso::Empreindre(Empreinte& e) const {
         e.Ajouter(v);
     for (int16_t v : {EtapeAnimation, ApparenceBase, Attitude, Formation, Reserve, Peuple, Monstre, Grade,
                       PorteeAttaqueBase, EffetAttaqueBase, PerteRessourceIndice, ArmureBase, EtapeIA, Direction,
-                      ObjetFabrique, ObjetUtilise, SurfaceAttaqueBase, SurfaceAttaque, PorteeAttaque, Armure, CodeAction})
+                      ObjetFabrique, ObjetUtilise, SurfaceAttaqueBase, SurfaceAttaque, PorteeAttaque, Armure, CodeAction,
+                      MetierAction})
         e.Ajouter(v);
     for (bool b : {Parole, Volant, ApparenceFichier, Feminin, Progresse, Kamikaze, AttaqueImmediate, ModeAuto, IA,
                    IA_Equiper, IA_Manger, IA_Pacifique, IA_Temeraire, IA_Berserk, EstActif, EnMouvement, DansMaison,

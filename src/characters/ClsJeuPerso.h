@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "characters/ClsJeuObjet.h"
@@ -15,6 +16,7 @@
 class ClsJeuParam;
 class ClsJeuFief;
 class ClsJeuBatiment;
+class ClsJeuRessources;
 
 // Every character stands in a box of 24 × 32 metres.
 inline constexpr int32_t LargeurPerso = 24;
@@ -168,11 +170,39 @@ public:
     bool EnCombat() const { return CodeAction >= 300 && CodeAction <= 399; }
     int16_t Effet_Attaque(const ClsJeuParam& param) const;
 
-    // Current action as its numeric code.
+    // The action. Every decision reads its code; the interface shows its text. A code
+    // outside the table of actions is written as "Au travail" and so reads as 102.
     int16_t Definir_Action() const { return CodeAction; }
-    void Definir_Action(int16_t code) { CodeAction = code; }
+    void Definir_Action(int16_t code);
+    // Code 102 showing the trade name of resource r, as a house at work does.
+    void Definir_Action_Metier(int32_t r);
+    // The text of the action: the trade name while a house works a resource, else the
+    // text of the code.
+    std::string_view Texte_Action(const ClsJeuParam& param) const;
+    // A text read back: a text of the table gives its code, any other 102 (showing the
+    // trade whose name it is, if any).
+    void Definir_Action_Texte(std::string_view texte, const ClsJeuParam& param);
+
+    // Orders. Each sets the destination and the action, and nothing else unless said. w
+    // and h are the size of a character's box, so that the box is aimed at the centre of
+    // the target; an order at a fallen building does nothing.
+    void Aller_A(int32_t x, int32_t y);
     // Stands still where it is: at rest at home, else waiting.
     void Arreter();
+    void Aller_Ressource(const ClsJeuRessources& ressource, int32_t numero, int32_t largeur, int32_t hauteur,
+                         int32_t w = LargeurPerso, int32_t h = HauteurPerso);
+    // Home, to rest or work; to build if the house is unfinished or hurt.
+    void Rentrer_Maison(const ClsJeuBatiment& maison, int32_t w = LargeurPerso, int32_t h = HauteurPerso);
+    // Into someone else's house, through its door.
+    void Aller_Maison(const ClsJeuBatiment& maison, int32_t w = LargeurPerso, int32_t h = HauteurPerso);
+    void Rentrer_Chateau(const ClsJeuBatiment& chateau, int32_t largeur, int32_t hauteur, int32_t w = LargeurPerso,
+                         int32_t h = HauteurPerso);
+    void Aller_Chateau(const ClsJeuBatiment& chateau, int32_t numero, int32_t largeur, int32_t hauteur,
+                       int32_t w = LargeurPerso, int32_t h = HauteurPerso);
+    // The attacker comes out of any building and may strike at once.
+    void Attaquer_Perso(int32_t n);
+    void Attaquer_Maison(int32_t n);
+    void Attaquer_Chateau(int32_t n);
 
     // Effective values from the base ones, then with what is worn.
     void Ajuster_Bonus();
@@ -218,6 +248,7 @@ public:
 
 private:
     int16_t CodeAction = 0;
+    int16_t MetierAction = -1;   // resource whose trade name the action shows, -1 for none
 
     double Montre(const Jauge& j) const { return std::min(static_cast<double>(j.Max), j.Valeur + j.Reserve); }
     static int16_t Effectif(const std::vector<Competence>& table, int i) {
