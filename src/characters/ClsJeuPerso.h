@@ -17,6 +17,7 @@ class ClsJeuParam;
 class ClsJeuFief;
 class ClsJeuBatiment;
 class ClsJeuRessources;
+struct CiblesDeplacement;
 
 // Every character stands in a box of 24 × 32 metres.
 inline constexpr int32_t LargeurPerso = 24;
@@ -203,6 +204,12 @@ public:
     void Attaquer_Perso(int32_t n);
     void Attaquer_Maison(int32_t n);
     void Attaquer_Chateau(int32_t n);
+
+    // Metres walked per tick: speed by form, at least 1; 6 for the dead.
+    void Calculer_Longueur_Pas();
+    // One tick of the character: aim, strike, wait, walk or do what it came for.
+    // commentaire receives the code of a comment the tick raised, if any.
+    void Deplacement(CiblesDeplacement& cibles, int32_t& commentaire, const ClsJeuParam& param);
 
     // Effective values from the base ones, then with what is worn.
     void Ajuster_Bonus();

@@ -215,4 +215,23 @@ TEST_F(Ordres, AttaquerFaitSortirDesBatimentsEtFrapperAussitot) {
     EXPECT_EQ(p.MaisonCible, 1);
 }
 
+TEST_F(Ordres, LePasSuitLaVitesseEtLaFormeSansJamaisTomberAZero) {
+    ClsJeuPerso& p = P(0);
+    p.Vitesse = 5;
+    p.CoefForme = 0.875;
+    p.Calculer_Longueur_Pas();
+    EXPECT_EQ(p.LongueurPas, 4);   // Int(4.375)
+    p.Vitesse = 3;
+    p.CoefForme = 0.1;
+    p.Calculer_Longueur_Pas();
+    EXPECT_EQ(p.LongueurPas, 1);   // Int(0.3) is 0: a step of 1 all the same
+    p.Vitesse = 0;
+    p.Calculer_Longueur_Pas();
+    EXPECT_EQ(p.LongueurPas, 1);
+    p.Vitesse = 40;
+    p.Definir_Vie(0);
+    p.Calculer_Longueur_Pas();
+    EXPECT_EQ(p.LongueurPas, 6);
+}
+
 }  // namespace
