@@ -19,59 +19,43 @@ void Stocks(ClsJeuFief& f, std::initializer_list<std::pair<int, double>> autres)
 
 using Marche = MondeRegles;
 
-TEST_F(Marche, VendreDonneLePrixDeVenteParUniteEntiere) {
+// A trade of Bois with the market: Bois carried, money and the market's Bois before; the
+// order; the three after.
+struct Echange {
+    bool vente;
+    double porte, argent, marche, q;
+    bool tout;
+    double porte_apres, argent_apres, marche_apres;
+};
+
+const Echange Echanges[] = {
+    {true, 10, 0, 0, 4.7, false, 6, 8, 4},            // 2 a unit, whole units
+    {true, 6, 8, 4, 0.5, false, 6, 8, 4},             // half a unit sells nothing
+    {true, 6, 8, 4, 50, false, 0, 20, 10},            // no more than carried
+    {true, 2.5, 0, 0, 0, true, 0.5, 4, 2},            // all the whole units
+    {false, 0, 20, 10, 3, false, 3, 11, 7},           // 3 a unit (2 × 1.5)
+    {false, 3, 7, 7, 5, false, 5, 1, 5},              // 7 buys 2
+    {false, 5, 0, 5, 5, true, 5, 0, 5},               // all, without money: nothing
+    {false, 5, 100, 1.5, 0, true, 6, 97, 0.5},        // the market has one whole unit
+    {false, 19.5, 100, 10, 3, false, 19.5, 100, 10},  // room for 0.5, measured exactly: nothing
+};
+
+TEST_F(Marche, VendreEtAcheterParUnitesEntieresAuPrixDeVente) {
     ClsJeuFief& f = Fiefs[0];
-    ClsJeuPerso& p = Perso(0, 10);
-    p.Argent = 0;
-    f.Vendre(Bois, 4.7, p, Param, false);   // Bois sells for 2
-    EXPECT_DOUBLE_EQ(p.Definir_Ressources(Bois), 6);
-    EXPECT_DOUBLE_EQ(f.Definir_Ressources(Bois), 4);
-    EXPECT_DOUBLE_EQ(p.Argent, 8);
-    f.Vendre(Bois, 0.5, p, Param, false);   // half a unit sells nothing
-    EXPECT_DOUBLE_EQ(p.Definir_Ressources(Bois), 6);
-    EXPECT_DOUBLE_EQ(p.Argent, 8);
-    f.Vendre(Bois, 50, p, Param, false);   // no more than carried
-    EXPECT_DOUBLE_EQ(p.Definir_Ressources(Bois), 0);
-    EXPECT_DOUBLE_EQ(f.Definir_Ressources(Bois), 10);
-    EXPECT_DOUBLE_EQ(p.Argent, 20);
-
-    p.Definir_Ressources(Planches, 2.5);
-    f.Vendre(Planches, 0, p, Param, true);
-    EXPECT_DOUBLE_EQ(p.Definir_Ressources(Planches), 0.5);
-    EXPECT_DOUBLE_EQ(p.Argent, 36);
-}
-
-TEST_F(Marche, AcheterCouteLePrixDeVenteFoisLeCoefficient) {
-    ClsJeuFief& f = Fiefs[0];
-    f.Definir_Ressources(Bois, 10);
-    ClsJeuPerso& p = Perso(0);
-    p.Argent = 20;
-    f.Acheter(Bois, 3, p, Param, false);   // 2 × 1.5 = 3 a unit
-    EXPECT_DOUBLE_EQ(p.Definir_Ressources(Bois), 3);
-    EXPECT_DOUBLE_EQ(f.Definir_Ressources(Bois), 7);
-    EXPECT_DOUBLE_EQ(p.Argent, 11);
-    p.Argent = 7;
-    f.Acheter(Bois, 5, p, Param, false);   // 7 buys 2
-    EXPECT_DOUBLE_EQ(p.Definir_Ressources(Bois), 5);
-    EXPECT_DOUBLE_EQ(p.Argent, 1);
-    p.Argent = 0;
-    f.Acheter(Bois, 5, p, Param, true);
-    EXPECT_DOUBLE_EQ(p.Definir_Ressources(Bois), 5);
-    EXPECT_DOUBLE_EQ(f.Definir_Ressources(Bois), 5);
-
-    p.Argent = 100;
-    f.Definir_Ressources(Bois, 1.5);
-    f.Acheter(Bois, 0, p, Param, true);   // the stock has one whole unit
-    EXPECT_DOUBLE_EQ(p.Definir_Ressources(Bois), 6);
-    EXPECT_DOUBLE_EQ(f.Definir_Ressources(Bois), 0.5);
-    EXPECT_DOUBLE_EQ(p.Argent, 97);
-
-    Perso(0, 19.5);   // room is measured on what is carried, exactly: 0.5 buys nothing
-    f.Definir_Ressources(Bois, 10);
-    f.Acheter(Bois, 3, p, Param, false);
-    EXPECT_DOUBLE_EQ(p.Definir_Ressources(Bois), 19.5);
-    EXPECT_DOUBLE_EQ(p.Argent, 97);
-
+    ClsJeuPerso& p = Persos[0];
+    for (const Echange& e : Echanges) {
+        SCOPED_TRACE(&e - Echanges);
+        Perso(0, e.porte);
+        p.Argent = e.argent;
+        f.Definir_Ressources(Bois, e.marche);
+        if (e.vente)
+            f.Vendre(Bois, e.q, p, Param, e.tout);
+        else
+            f.Acheter(Bois, e.q, p, Param, e.tout);
+        EXPECT_DOUBLE_EQ(p.Definir_Ressources(Bois), e.porte_apres);
+        EXPECT_DOUBLE_EQ(p.Argent, e.argent_apres);
+        EXPECT_DOUBLE_EQ(f.Definir_Ressources(Bois), e.marche_apres);
+    }
     f.Definir_Ressources(Bois, -4);   // the stock never goes below 0
     EXPECT_DOUBLE_EQ(f.Definir_Ressources(Bois), 0);
     EXPECT_DOUBLE_EQ(f.Definir_Ressources(-1), 0);
@@ -122,7 +106,7 @@ TEST_F(Transaction, LaPremiereRessourceGagneQuelleQueSoitSonEpoqueEtUnEcartDe002
 
 using Chateau = MondeRegles;
 
-TEST_F(Chateau, LaVieDuChateauSuitLesBonusDesEpoques) {
+TEST_F(Chateau, LaVieDuChateauSuitLesEpoquesEtLArgentDonne) {
     ClsJeuFief& f = Fiefs[0];
     ClsJeuBatiment& c = Chateaux[0];
     Initialiser_Chateau(c, f, Param);
@@ -136,11 +120,10 @@ TEST_F(Chateau, LaVieDuChateauSuitLesBonusDesEpoques) {
     f.Peuple = 1;   // a monster fief has no epochs to its castle
     Initialiser_Chateau(c, f, Param);
     EXPECT_EQ(c.MaxVie, 4000);
-}
 
-TEST_F(Chateau, LArgentDonneDevientDeLaVieA5ArgentLePoint) {
-    ClsJeuFief& f = Fiefs[0];
-    ClsJeuBatiment& c = Chateaux[0];
+    // Money given becomes health at 5 a point.
+    f.Peuple = 0;
+    f.Epoque = 0;
     Initialiser_Chateau(c, f, Param);
     ClsJeuPerso& p = Persos[0];
     p.Argent = 100;

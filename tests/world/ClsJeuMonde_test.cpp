@@ -65,15 +65,6 @@ TEST(Monde, UnSeulPasDeLigneEtSeizeMetresParCaseEnDiagonale) {
     EXPECT_EQ(monde.Longueur_Diagonale(), 17889);   // 17888.54
 }
 
-TEST(Monde, UnGisementEstVisibleTantQuIlResteQuelqueChose) {
-    ClsJeuRessources gisement;
-    EXPECT_FALSE(gisement.Visible());
-    gisement.Quantite = 0.25;
-    EXPECT_TRUE(gisement.Visible());
-    gisement.Quantite = -1;
-    EXPECT_FALSE(gisement.Visible());
-}
-
 TEST(Monde, LEmpreinteCouvreChaqueChamp) {
     using M = ClsJeuMonde;
     Verifier_Empreinte<M>({[](M& m) { m.Largeur = 2; }, [](M& m) { m.Hauteur = 2; },
@@ -84,15 +75,13 @@ TEST(Monde, LEmpreinteCouvreChaqueChamp) {
                            [](R& g) { g.TypeRessource = 1; }, [](R& g) { g.Quantite = 1; },
                            [](R& g) { g.QuantiteDepart = 1; }});
     using B = ClsJeuBatiment;
-    Verifier_Empreinte<B>({[](B& b) { b.Numero = 1; }, [](B& b) { b.PositionX = 1; },
-                           [](B& b) { b.PositionY = 1; }, [](B& b) { b.Largeur = 1; },
-                           [](B& b) { b.Hauteur = 1; }, [](B& b) { b.EntreePositionX = 1; },
-                           [](B& b) { b.EntreePositionY = 1; }, [](B& b) { b.Termine = true; },
-                           [](B& b) { b.EnConstruction = true; }, [](B& b) { b.Vie = 1; },
-                           [](B& b) { b.ReserveVie = 1; }, [](B& b) { b.MaxVie = 1; },
-                           [](B& b) { b.Argent = 1; }, [](B& b) { b.MaxStock = 1; },
-                           [](B& b) { b.Magasin = true; }, [](B& b) { b.Fabrique = true; },
-                           [](B& b) { b.Service = 1; }, [](B& b) { b.Type = 1; },
-                           [](B& b) { b.Stock = 1; }, [](B& b) { b.StockObjets.push_back(0); },
-                           [](B& b) { b.NumeroAnimation = 1; }});
+    Verifier_Empreinte<B>({
+        [](B& b) { b.Numero = 1; },        [](B& b) { b.PositionX = 1; },          [](B& b) { b.PositionY = 1; },
+        [](B& b) { b.Largeur = 1; },       [](B& b) { b.Hauteur = 1; },            [](B& b) { b.EntreePositionX = 1; },
+        [](B& b) { b.EntreePositionY = 1; }, [](B& b) { b.Termine = true; },       [](B& b) { b.EnConstruction = true; },
+        [](B& b) { b.Vie = 1; },           [](B& b) { b.ReserveVie = 1; },         [](B& b) { b.MaxVie = 1; },
+        [](B& b) { b.Argent = 1; },        [](B& b) { b.MaxStock = 1; },           [](B& b) { b.Magasin = true; },
+        [](B& b) { b.Fabrique = true; },   [](B& b) { b.Service = 1; },            [](B& b) { b.Type = 1; },
+        [](B& b) { b.Stock = 1; },         [](B& b) { b.StockObjets.push_back(0); }, [](B& b) { b.NumeroAnimation = 1; },
+    });
 }

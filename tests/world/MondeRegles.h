@@ -29,15 +29,10 @@ protected:
         Charger_Groupes();
         Fiefs.assign(2, ClsJeuFief{});
         Chateaux.assign(2, ClsJeuBatiment{});
-        for (std::size_t f = 0; f < Fiefs.size(); ++f) {
-            Fiefs[f].Init(Param);
-            Fiefs[f].Equipe = static_cast<int32_t>(f);
-            Chateaux[f].Numero = static_cast<int32_t>(f);
-        }
+        for (ClsJeuFief& f : Fiefs) f.Init(Param);
         const std::size_t n = 3;
         Persos.assign(n, ClsJeuPerso{});
         Maisons.assign(n, ClsJeuBatiment{});
-        EffetsPersos.assign(n, ClsJeuEffet{});
         EffetsMaisons.assign(n, ClsJeuEffet{});
         for (std::size_t i = 0; i < n; ++i) {
             Persos[i].Init(static_cast<int32_t>(i), Param);
