@@ -3,6 +3,9 @@
 #include <cmath>
 
 #include "ai/ModIA2.h"
+#include "characters/Deplacement.h"
+#include "rules/ClsJeuParam.h"
+#include "rules/Hasard.h"
 #include "rules/Horloge.h"
 #include "session/PreparerPartie.h"
 #include "world/GestionFiefs.h"
@@ -64,9 +67,20 @@ void FrmMoteur2D::Tour() {
     ++NombreTours;
 }
 
-// Every character in index order: what it does this tick, then its recovery.
+// Every character in index order: what it does this tick, then its recovery, then what it
+// says about it. A character acts on positions that lower-numbered ones have already
+// changed in the same tick. The hero always speaks; others one time in a hundred.
 void Deplacer_Persos() {
-    for (ClsJeuPerso& p : Persos) p.Recuperation(Fiefs[static_cast<std::size_t>(p.Fief)]);
+    for (std::size_t i = 0; i < Persos.size(); ++i) {
+        int32_t commentaire = -1;
+        CiblesDeplacement cibles = Lire_Cibles(Persos[i]);
+        Persos[i].Deplacement(cibles, commentaire, Param);
+        ClsJeuPerso& p = Persos[i];
+        p.Recuperation(Fiefs[static_cast<std::size_t>(p.Fief)]);
+        if (commentaire < 0) continue;
+        if (static_cast<int32_t>(i) == PersoActif || Rnd() > 0.99)
+            p.Definir_Commentaires(Commentaires.Message(commentaire));
+    }
 }
 
 void FrmMoteur2D::Rendu() {

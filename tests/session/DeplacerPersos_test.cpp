@@ -1,0 +1,100 @@
+#include "MondeDeTest.h"
+#include "rules/Hasard.h"
+#include "session/FrmMoteur2D.h"
+
+namespace {
+
+// A fief with its castle and n characters at (100, 100); a phrase book in which a character
+// that loses its target into a building says one thing.
+class DeplacerLesPersos : public MondeDeTest {
+protected:
+    void SetUp() override {
+        MondeDeTest::SetUp();
+        std::string livre = "[Commentaires]\nNombreTypeMessages=16\nNombreMaxMessagesParType=1\n";
+        livre += "[Commentaires_16]\nNombreMessages=1\nMessage(1)=Il se cache !\n";
+        dossier.Ecrire("Ini_Commentaires.ini", livre);
+        Commentaires.Charger();
+        Fiefs.assign(1, ClsJeuFief{});
+        Fiefs[0].Init(Param);
+        Chateaux.assign(1, ClsJeuBatiment{});
+        Chateaux[0].MaxVie = 1000;
+        Chateaux[0].Definir_Vie(1000);
+    }
+
+    static void Peupler(int n) {
+        Persos.assign(static_cast<std::size_t>(n), ClsJeuPerso{});
+        Maisons.assign(static_cast<std::size_t>(n), ClsJeuBatiment{});
+        for (int i = 0; i < n; ++i) {
+            ClsJeuPerso& p = P(i);
+            p.Init(i, Param);
+            p.PositionX = p.PositionY = 100;
+            p.Arreter();
+            Maisons[static_cast<std::size_t>(i)].Numero = i;
+        }
+        Fiefs[0].NombreSujets = n;
+        PersoActif = 0;
+    }
+
+    static ClsJeuPerso& P(int i) { return Persos[static_cast<std::size_t>(i)]; }
+};
+
+TEST_F(DeplacerLesPersos, ChacunFaitSonPasPuisRecupereDansLOrdreDesIndices) {
+    Peupler(3);
+    P(0).Aller_A(100, 400);
+    P(1).Attaquer_Perso(0);   // 0 steps first, so 1 aims where 0 stands after its step
+    P(1).PositionX = 900;
+    P(2).Attaquer_Perso(1);   // and 2 where 1 stands after its own
+    P(2).PositionX = 2000;
+    P(2).Definir_Attaque(0);
+    Deplacer_Persos();
+    EXPECT_EQ(P(0).PositionY, 103);
+    EXPECT_EQ(P(1).DestinationY, 103);
+    EXPECT_EQ(P(1).PositionY, 103);   // its north-south leg first
+    EXPECT_EQ(P(2).DestinationX, 900);
+    EXPECT_EQ(P(2).DestinationY, 103);
+    EXPECT_GT(P(2).Definir_Attaque(), 0);   // recovery ran after the step
+    EXPECT_LT(P(0).Energie.Valeur, P(0).Energie.Max);
+}
+
+TEST_F(DeplacerLesPersos, UnIndiceHorsDeSonTableauNeDesigneRien) {
+    Peupler(4);
+    P(0).Attaquer_Perso(40);
+    P(1).Attaquer_Maison(-3);
+    P(2).RessourceCible = 12;   // there is no deposit at all
+    P(2).Definir_Action(3);
+    P(2).DestinationY = 200;
+    P(3).Aller_Chateau(Chateaux[0], 9, 112, 112);   // a castle index that no fief has
+    for (int k = 0; k < 300; ++k) Deplacer_Persos();
+    EXPECT_EQ(P(0).Definir_Action(), 0);
+    EXPECT_EQ(P(1).Definir_Action(), 0);
+    EXPECT_EQ(P(2).Definir_Action(), 2);
+    EXPECT_EQ(P(2).RessourceRecoltee, -1);
+    EXPECT_EQ(P(3).Definir_Action(), 0);
+    EXPECT_FALSE(P(3).DansChateau);
+}
+
+TEST_F(DeplacerLesPersos, LeHerosParleToujoursLesAutresUneFoisSurCent) {
+    const int n = 1001;
+    Peupler(n);
+    P(n - 1).DansSaMaison = true;   // hidden: every one of its attackers gives up and says so
+    for (int i = 0; i < n - 1; ++i) P(i).Attaquer_Perso(n - 1);
+    Definir_Graine(5);
+    Deplacer_Persos();
+
+    // The same draws again: a draw for each character but the hero, then one for the
+    // phrase of each speaker.
+    Definir_Graine(5);
+    int bavards = 0;
+    for (int i = 0; i < n - 1; ++i) {
+        const bool parle = i == PersoActif || static_cast<double>(Rnd()) > 0.99;
+        if (parle) Rnd();
+        EXPECT_EQ(P(i).Definir_Commentaires(), parle ? "Il se cache !" : "") << i;
+        bavards += parle;
+    }
+    EXPECT_EQ(P(0).Definir_Commentaires(), "Il se cache !");
+    EXPECT_GT(bavards, 1);
+    EXPECT_LT(bavards, 40);
+    EXPECT_EQ(P(n - 1).Definir_Commentaires(), "");
+}
+
+}  // namespace
