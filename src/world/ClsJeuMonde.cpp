@@ -10,6 +10,10 @@ void ClsJeuMonde::Type_Terrain(int32_t i, int32_t v) {
     Cases[k] = v;
 }
 
+void ClsJeuMonde::Dimensionner(int32_t borne) {
+    Cases.assign(static_cast<std::size_t>(borne < 0 ? 0 : borne) + 1, TerrainLibre);
+}
+
 int32_t ClsJeuMonde::Longueur_Diagonale() const {
     const double largeur = static_cast<double>(Largeur) * TailleCase;
     const double hauteur = static_cast<double>(Hauteur) * TailleCase;

@@ -24,6 +24,11 @@ public:
     static constexpr int32_t TerrainLibre = 0;
     static constexpr int32_t TerrainAFaconner = 1;
 
+    // Draws a new terrain: seeds, growth and shaping (GenerationTerrain.cpp).
+    void Generer_Monde();
+    // Cells 0 to borne, all open ground.
+    void Dimensionner(int32_t borne);
+
     // Index of the cell at column x, row y.
     int32_t Indice_Case(int32_t x, int32_t y) const { return y * Largeur + x; }
 
