@@ -7,6 +7,7 @@
 #include "rules/Conversions.h"
 #include "rules/Hasard.h"
 #include "world/Globales.h"
+#include "world/ModGenererMonde.h"
 
 namespace {
 
@@ -95,6 +96,10 @@ void Nouveau_Monde(const ChoixPartie& choix) {
     Repartir_Villageois(choix);
     Doter_Fiefs(choix.Epoque);
     Doter_Villageois();
+    Monde.Generer_Monde();
+    Abandons.Chateaux = Placer_Chateaux();
+    Abandons.Gisements = Placer_Ressources();
+    Placer_Persos();
 }
 
 // Soldier i of a battle: army 0 stands in columns from x = 640, army 1 1000 metres to the
@@ -178,6 +183,8 @@ void Nouvelle_Bataille(const ChoixPartie& choix) {
         p.Equipe = Fiefs[static_cast<std::size_t>(p.Fief)].Equipe;
     }
     Echanger_Heros(n0);
+    Monde.Generer_Monde();
+    Abandons.Gisements = Placer_Ressources();
 }
 
 // Half the human villagers of a new world follow an AI script drawn at random.
@@ -200,6 +207,7 @@ bool Preparer_Partie(const ChoixPartie& choix) {
     Monde.Largeur = choix.Largeur;
     Monde.Hauteur = choix.Hauteur;
     Ressources.assign(Taille(choix.Gisements + 1), ClsJeuRessources{});
+    Abandons = {};
 
     if (choix.Page == PageNouveauMonde) {
         Nouveau_Monde(choix);

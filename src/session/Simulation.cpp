@@ -9,6 +9,7 @@
 #include "rules/Horloge.h"
 #include "session/FrmMoteur2D.h"
 #include "world/Globales.h"
+#include "world/ModGenererMonde.h"
 
 void Creer_Heros_Actif() {
     Persos.assign(1, ClsJeuPerso{});
@@ -67,4 +68,13 @@ void Ecrire_Etat(std::ostream& sortie) {
         sortie << "gisement=" << k << " type=" << g.TypeTerrain << " x=" << g.PositionX << " y=" << g.PositionY
                << " quantite=" << Texte_Nombre(g.Quantite) << '\n';
     }
+    for (std::size_t f = 0; f < Chateaux.size(); ++f) {
+        const ClsJeuBatiment& c = Chateaux[f];
+        sortie << "chateau=" << f << " x=" << c.PositionX << " y=" << c.PositionY << " vie=" << Texte_Nombre(c.Vie)
+               << '\n';
+    }
+}
+
+void Ecrire_Abandons(std::ostream& sortie) {
+    sortie << "abandons=chateaux:" << Abandons.Chateaux << ",gisements:" << Abandons.Gisements << '\n';
 }

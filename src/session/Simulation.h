@@ -18,6 +18,8 @@ std::optional<int64_t> Simuler(const ChoixPartie& choix, int64_t ticks);
 // Hash of the whole state: every record of the world and the random stream.
 uint64_t Empreinte_Etat();
 
-// One line per fief, and with etat one per character and one per deposit.
+// One line per fief, and with etat one per character, one per deposit and one per castle.
 void Ecrire_Fiefs(std::ostream& sortie);
 void Ecrire_Etat(std::ostream& sortie);
+// What the world generation dropped for want of room: "abandons=chateaux:C,gisements:G".
+void Ecrire_Abandons(std::ostream& sortie);

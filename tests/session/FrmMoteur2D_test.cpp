@@ -83,8 +83,10 @@ TEST_F(BoucleDeJeu, VictoireEtDefaiteSuiventLesChateauxEtLesMorts) {
     EXPECT_FALSE(Victoire);
     EXPECT_FALSE(Defaite);
 
-    // The enemy fief has no castle and all its subjects dead: won, even with the hero's
+    // The enemy fief has lost its castle and all its subjects: won, even with the hero's
     // own fief fallen too, since the win is tested first.
+    Chateaux[1].Vie = 0;
+    Chateaux[0].Vie = 0;
     Fiefs[1].NombreMorts = Fiefs[1].NombreSujets;
     Fiefs[0].NombreMorts = Fiefs[0].NombreSujets;
     Passes(1, 0.05f);
@@ -101,6 +103,7 @@ TEST_F(BoucleDeJeu, VictoireEtDefaiteSuiventLesChateauxEtLesMorts) {
 TEST_F(BoucleDeJeu, LeFiefDuHerosTombeEtLaPartieEstPerdue) {
     Ouvrir();
     Chateaux[1].Vie = 1;   // the enemy castle stands
+    Chateaux[0].Vie = 0;
     Fiefs[0].NombreMorts = Fiefs[0].NombreSujets;
     Passes(1, 0.05f);
     EXPECT_FALSE(Victoire);
