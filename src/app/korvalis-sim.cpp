@@ -14,6 +14,7 @@
 #include "rules/Conversions.h"
 #include "rules/Hasard.h"
 #include "session/ModMain.h"
+#include "session/CarteMonde.h"
 #include "session/Simulation.h"
 #include "world/Globales.h"
 
@@ -23,11 +24,13 @@ constexpr const char* Usage =
     "usage : korvalis-sim [--dossier DIR] [--graine N] [--ticks T] [--monde nouveau|bataille]\n"
     "        [--fiefs N] [--villageois N] [--equipes E1,E2,…] [--peuples P1,P2,…] [--soldats N1,N2]\n"
     "        [--epoque E] [--largeur W] [--hauteur H] [--gisements N] [--etat]\n"
+    "        [--carte FICHIER.pgm|FICHIER.ppm]\n"
+    "--carte écrit l'image du monde à la fin, un pixel par case (PPM en couleur, PGM en gris).\n"
     "Les équipes, peuples et époques comptent à partir de 0. Sans option, les valeurs\n"
     "viennent de Ini_Partie du dossier du jeu.\n";
 
 struct Options {
-    std::optional<std::string> dossier, monde;
+    std::optional<std::string> dossier, monde, carte;
     std::optional<uint64_t> graine;
     int64_t ticks = 0;
     std::optional<int32_t> fiefs, villageois, epoque, largeur, hauteur, gisements;
@@ -76,6 +79,7 @@ Options Lire_Options(int argc, char** argv) {
         else if (cle == "--largeur") o.largeur = entier();
         else if (cle == "--hauteur") o.hauteur = entier();
         else if (cle == "--gisements") o.gisements = entier();
+        else if (cle == "--carte") o.carte = v;
         else Refuser("option inconnue " + cle);
     }
     if (o.monde && *o.monde != "nouveau" && *o.monde != "bataille") Refuser("--monde vaut nouveau ou bataille");
@@ -137,5 +141,13 @@ int main(int argc, char** argv) {
               << "gisements=" << Ressources.size() << '\n';
     Ecrire_Fiefs(std::cout);
     if (o.etat) Ecrire_Etat(std::cout);
+    Ecrire_Abandons(std::cout);
+    if (o.carte) {
+        if (!Ecrire_Carte(Dessiner_Carte(), *o.carte)) {
+            std::cerr << "korvalis-sim : impossible d'écrire la carte " << *o.carte << '\n';
+            return 1;
+        }
+        std::cout << "carte=" << *o.carte << '\n';
+    }
     return 0;
 }
