@@ -61,7 +61,9 @@ void Ecrire_Etat(std::ostream& sortie) {
     for (std::size_t i = 0; i < Persos.size(); ++i) {
         const ClsJeuPerso& p = Persos[i];
         sortie << "perso=" << i << " fief=" << p.Fief << " peuple=" << p.Peuple << " x=" << p.PositionX
-               << " y=" << p.PositionY << " action=" << p.Definir_Action() << '\n';
+               << " y=" << p.PositionY << " action=" << p.Definir_Action() << " vie=" << Texte_Nombre(p.Definir_Vie())
+               << " energie=" << Texte_Nombre(p.Definir_Energie()) << " magie=" << Texte_Nombre(p.Definir_Magie())
+               << " moral=" << Texte_Nombre(p.Definir_Moral()) << '\n';
     }
     for (std::size_t k = 0; k < Ressources.size(); ++k) {
         const ClsJeuRessources& g = Ressources[k];
