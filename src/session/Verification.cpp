@@ -1,10 +1,15 @@
 #include "session/Verification.h"
 
+#include <algorithm>
+#include <cstdio>
+#include <filesystem>
 #include <set>
 
+#include "rules/Chemins.h"
 #include "rules/ClsFicINI.h"
 #include "rules/ClsJeuParam.h"
 #include "rules/Conversions.h"
+#include "rules/TailleBmp.h"
 #include "rules/VerificationParam.h"
 
 namespace {
@@ -123,6 +128,141 @@ void Verifier_Armees(Controle& c) {
     }
 }
 
+// ---- pictures ----
+
+// A picture that must be there: the rule that names it, its path in the game folder, and the
+// size its family reads (at least that much, or exactly that for a back buffer).
+struct ImageAttendue {
+    std::string lieu;
+    std::string chemin;
+    int largeur = 1, hauteur = 1;
+    bool exacte = false;
+    bool facultative = false;
+};
+
+std::string Lieu(const std::string& fichier, const std::string& section, const std::string& cle) {
+    return fichier + ".ini:" + section + ":" + cle;
+}
+
+// Where a picture that no rule names is reported: its folder and its file.
+std::string Lieu_Image(const std::string& chemin) {
+    const auto barre = chemin.rfind('/');
+    const std::string dossier = chemin.substr(0, barre), fichier = chemin.substr(barre + 1);
+    const auto premier = dossier.find('/');
+    return premier == std::string::npos ? dossier + "::" + fichier
+                                        : dossier.substr(0, premier) + ":" + dossier.substr(premier + 1) + ":" + fichier;
+}
+
+// How many looks the humans' sheet must hold: the random ones and every trade and garment.
+int Apparences_Humaines() {
+    int n = Param.PersosNombreApparences;
+    for (int b = 0; b < Param.NombreTypeBatiments; ++b) n = std::max(n, Param.Batiment_ApparencePerso(b) + 1);
+    for (int o = 0; o < Param.NombreObjets; ++o) n = std::max(n, Param.Objet_ApparencePerso(o) + 1);
+    return std::max(n, 1);
+}
+
+constexpr int CellulePersoL = 3 * 24, CellulePersoH = 4 * 32;
+
+void Images_Des_Regles(std::vector<ImageAttendue>& l) {
+    const std::string B = "Ini_Parametres_Batiments", M = "Ini_Parametres_Monstres", O = "Ini_Parametres_Objets";
+    const std::string E = "Ini_Parametres_Effets", R = "Ini_Parametres_Ressources";
+    for (int p = 0; p < Param.NombrePeuples; ++p) {
+        char nom[48];
+        std::snprintf(nom, sizeof nom, "Images/Batiments/Chateaux-%04d.bmp", p + 1);
+        const int lignes = p == 0 ? Param.NombreEpoques : 1;
+        l.push_back({Lieu(M, Section_Numerotee("Peuple_", p + 1), "Nom"), nom, Param.ChateauxLargeur, lignes * Param.ChateauxHauteur});
+    }
+    for (int b = 0; b < Param.NombreTypeBatiments; ++b)
+        l.push_back({Lieu(B, Section_Numerotee("Batiment_", b + 1), "Nom"), "Images/Batiments/" + Param.Batiment_Nom(b) + ".bmp",
+                     Param.Batiment_NombreEtapeAnimation(b) * Param.Batiment_Largeur(b),
+                     (Param.Batiment_NombreEtapeFabrication(b) + 1) * Param.Batiment_Hauteur(b)});
+    l.push_back({Lieu(R, "Terrain_Ressources", "NombreTerrainRessource"), "Images/Decors/Ressources.bmp", 32 * Param.NombreTerrainRessource, 32});
+    for (int e = 0; e < Param.NombreEffets; ++e)
+        l.push_back({Lieu(E, Section_Numerotee("Effet_", e + 1), "Fichier"), "Images/Effets/" + Param.Effet_Fichier(e) + ".bmp",
+                     Param.Effet_NombreEtapes(e) * Param.Effet_Largeur(e), Param.Effet_Hauteur(e)});
+    for (int o = 0; o < Param.NombreObjets; ++o)
+        l.push_back({Lieu(O, Section_Numerotee("Objet_", o + 1), "Nom"), "Images/Objets/" + Param.Objet_Nom(o) + ".bmp", 32, 32});
+    if (Param.NombrePeuples > 0)
+        l.push_back({Lieu(M, "Peuple_1", "Nom"), "Images/Persos/" + Param.Peuples_Nom(0) + ".bmp", 2 * Apparences_Humaines() * CellulePersoL, CellulePersoH});
+    for (int m = 0; m < Param.NombreTotalMonstres; ++m)
+        l.push_back({Lieu(M, Section_Numerotee("Monstre_", m + 1), "Nom"), "Images/Persos/Monstres/" + Param.Monstre_Nom(m) + ".bmp",
+                     (Param.Monstre_Apparence(m) + 1) * CellulePersoL, CellulePersoH});
+    l.push_back({Lieu(B, "Batiments", "NombreTypeBatiments"), "Images/Boutons/Construire.bmp", 28 * (Param.NombreTypeBatiments + 1), 3 * 28});
+}
+
+// The pictures of the program itself: fixed layouts, and those sized by the screen files.
+void Images_Du_Programme(std::vector<ImageAttendue>& l) {
+    auto fixe = [&l](const std::string& chemin, int largeur, int hauteur) { l.push_back({Lieu_Image(chemin), chemin, largeur, hauteur}); };
+    fixe("Images/terrains/Plaine.bmp", 17 * 16, 16);
+    fixe("Images/Curseurs/ArrowCursor.bmp", 12 * 32, 32);
+    fixe("Images/Boutons/Action.bmp", 7 * 24, 2 * 24);
+    fixe("Images/Boutons/Commerce.bmp", 9 * 24, 2 * 24);
+    fixe("Images/Boutons/Transfert.bmp", 6 * 24, 24);
+    fixe("Images/Boutons/Defilement.bmp", 2 * 64, 16);
+    fixe("Images/Fenetres/Victoire-Defaite.bmp", 320, 400);
+    fixe("Images/Fenetres/Fenetres.bmp", 1, 1);
+    ClsFicINI ecran;
+    ecran.Fichier = "Ini_Ecran";
+    ecran.Section = "Ecran";
+    const int resolutions = Souple_En<int32_t>(ecran.Parametre("NombreResolution"));
+    bool interface = false;
+    for (int n = 1; n <= resolutions; ++n) {
+        ecran.Section = Section_Numerotee("Resolution_", n);
+        const int largeur = Souple_En<int32_t>(ecran.Parametre("Largeur")), hauteur = Souple_En<int32_t>(ecran.Parametre("Hauteur"));
+        if (largeur <= 0 || hauteur <= 0) continue;
+        const std::string w = std::to_string(largeur);
+        l.push_back({Lieu("Ini_Ecran", ecran.Section, "Largeur"), "Images/Fond" + w + ".bmp", largeur, hauteur, true});
+        l.push_back({Lieu("Ini_Ecran", ecran.Section, "Largeur"), "Images/Fenetres/Chargement" + w + ".bmp", largeur, hauteur, false, true});
+        // What the layout of this screen width asks of the button and window pictures.
+        ClsFicINI disposition;
+        disposition.Fichier = "Ini_Interface" + w;
+        disposition.Section = "Interface";
+        if (!std::filesystem::exists(disposition.Chemin())) continue;
+        interface = true;
+        auto cle = [&](const char* nom) { return Souple_En<int32_t>(disposition.Parametre(nom)); };
+        const int infos = cle("NombreBoutonsInfos"), deplacement = cle("NombreBoutonsDeplacement");
+        l.push_back({Lieu(disposition.Fichier, "Interface", "NombreBoutonsInfos"), "Images/Boutons/Infos.bmp", 28 * std::max(infos, 1), 2 * 16});
+        l.push_back({Lieu(disposition.Fichier, "Interface", "NombreBoutonsDeplacement"), "Images/Boutons/Deplacement.bmp",
+                     28 * std::max(deplacement, 1), (deplacement > 17 ? 5 : 2) * 28});
+        l.push_back({Lieu(disposition.Fichier, "Interface", "LargeurFenetres"), "Images/Fenetres/Fenetres.bmp", 3 * cle("LargeurFenetres"),
+                     cle("HauteurFenetres")});
+        if (cle("AfficherCadre") != 0)
+            l.push_back({Lieu(disposition.Fichier, "Interface", "AfficherCadre"), "Images/Fenetres/Cadre.bmp", largeur, hauteur});
+    }
+    if (!interface) {
+        fixe("Images/Boutons/Infos.bmp", 6 * 28, 2 * 16);
+        fixe("Images/Boutons/Deplacement.bmp", 18 * 28, 5 * 28);
+    }
+}
+
+// Every file of the hero folders is read as a look of one block.
+void Images_Des_Heros(std::vector<ImageAttendue>& l) {
+    for (const char* dossier : {"Images/Persos/HerosF", "Images/Persos/HerosM"})
+        for (const std::string& nom : Lister_Dossier(Chemin_Jeu(dossier))) {
+            const std::string chemin = std::string(dossier) + "/" + nom;
+            l.push_back({Lieu_Image(chemin), chemin, CellulePersoL, CellulePersoH});
+        }
+}
+
+std::string Taille(int largeur, int hauteur) { return std::to_string(largeur) + " × " + std::to_string(hauteur); }
+
+void Controler_Image(const ImageAttendue& i, Problemes& problemes) {
+    const std::filesystem::path chemin = Chemin_Jeu(i.chemin);
+    std::error_code erreur;
+    if (!std::filesystem::exists(chemin, erreur)) {
+        if (!i.facultative) problemes.push_back(i.lieu + ": " + i.chemin + " manque");
+        return;
+    }
+    const auto taille = Lire_Taille_Bmp(chemin);
+    if (!taille) {
+        problemes.push_back(i.lieu + ": " + i.chemin + " n'est pas une image BMP lisible");
+    } else if (i.exacte ? (taille->largeur != i.largeur || taille->hauteur != i.hauteur)
+                        : (taille->largeur < i.largeur || taille->hauteur < i.hauteur)) {
+        problemes.push_back(i.lieu + ": " + i.chemin + " fait " + Taille(taille->largeur, taille->hauteur) + (i.exacte ? ", il faut " : ", il faut au moins ") +
+                            Taille(i.largeur, i.hauteur));
+    }
+}
+
 }  // namespace
 
 void Verifier_Ini_Jeu(Problemes& problemes) {
@@ -130,6 +270,14 @@ void Verifier_Ini_Jeu(Problemes& problemes) {
     c.Section("Vitesse");
     Verifier_Rythme(c, "FPS");
     Verifier_Rythme(c, "Vitesse");
+}
+
+void Verifier_Images(Problemes& problemes) {
+    std::vector<ImageAttendue> images;
+    Images_Des_Regles(images);
+    Images_Du_Programme(images);
+    Images_Des_Heros(images);
+    for (const ImageAttendue& i : images) Controler_Image(i, problemes);
 }
 
 void Verifier_Ini_Partie(Problemes& problemes) {
@@ -147,6 +295,7 @@ Problemes Verifier_Dossier_Jeu() {
         Param.Reinitialiser();
         for (int groupe = 0; groupe < 7; ++groupe) Param.Init(groupe);
         Verifier_Ini_Partie(problemes);
+        Verifier_Images(problemes);
     }
     return problemes;
 }
