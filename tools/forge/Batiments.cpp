@@ -729,9 +729,14 @@ void Chevrons(Toile& t, const Volume& v) {
         t.Ligne(v.x - 1, haut, cx, faite, Pal::Bois[2]);
         t.Ligne(v.x + v.w, haut, cx, faite, Pal::Bois[1]);
         t.Ligne(cx, faite, cx, haut, Pal::Bois[1]);
+        t.Ligne((v.x + cx) / 2, (haut + faite) / 2, (cx + v.x + v.w) / 2, (haut + faite) / 2, Pal::Bois[1]);
     } else {
+        // The ridge beam, a purlin half way, and the rafters between them.
+        const int milieu = (haut + faite) / 2;
         t.Ligne(v.x - 1, faite, v.x + v.w, faite, Pal::Bois[2]);
-        for (int x = v.x; x <= v.x + v.w; x += 4) t.Ligne(x, haut, x, faite, Pal::Bois[1]);
+        t.Ligne(v.x - 1, milieu, v.x + v.w, milieu, Pal::Bois[1]);
+        for (int x = v.x; x <= v.x + v.w; x += 7) t.Ligne(x, haut, x, faite, Pal::Bois[1]);
+        t.Ligne(v.x + v.w, haut, v.x + v.w, faite, Pal::Bois[1]);
     }
 }
 

@@ -95,16 +95,17 @@ Toile Bete_Face(const Bete& b, bool deFace, int pas) {
         sortie.Point(static_cast<int>(CX) - 1, static_cast<int>(hy + hr * 0.55) - 1, Pal::Encre);
         sortie.Point(static_cast<int>(CX), static_cast<int>(hy + hr * 0.55) - 1, Pal::Encre);
     } else {
-        const double ry = 6.0 * std::min(t, 1.2), cy = 28 - ry - 1, hr = 3.0 * std::min(t, 1.3), hy = cy - ry + 0.5;
+        // Seen from behind and above: the head beyond the back, half hidden by the shoulders.
+        const double ry = 5.5 * std::min(t, 1.2), cy = 28 - ry - 1.5, hr = 3.0 * std::min(t, 1.3), hy = cy - ry + 0.5;
         for (int cote : {-1, 1}) {
-            f.Rectangle(static_cast<int>(CX + cote * (rx - 0.8)) - 1, static_cast<int>(cy - ry * 0.6) + pas * cote, 2, 5, pelage);
-            f.Rectangle(static_cast<int>(CX + cote * (rx - 0.8)) - 1, static_cast<int>(cy + ry * 0.3) - pas * cote, 2, 5, pelage);
+            f.Rectangle(static_cast<int>(CX + cote * (rx - 0.5)) - 1, static_cast<int>(cy - ry * 0.5) + pas * cote, 2, 4, pelage);
+            f.Rectangle(static_cast<int>(CX + cote * (rx - 0.5)) - 1, static_cast<int>(cy + ry * 0.4) - pas * cote, 2, 5, pelage);
         }
-        Oreilles_Bete(f, b, CX, hy, hr, pelage);
-        f.Ellipse(CX, hy, hr, hr, pelage);
+        Oreilles_Bete(f, b, CX, hy - 1, hr, pelage);
+        f.Ellipse(CX, hy - 1, hr, hr, pelage);
         if (b.queueLongue) f.Trait(CX, cy + ry - 2, CX + pas, cy + ry + 2.5, 2.2, pelage);
-        f.Ellipse(CX, cy, rx, ry, pelage);
-        f.Rectangle(static_cast<int>(CX) - 1, static_cast<int>(cy - ry + 2), 2, static_cast<int>(ry), f.Matiere(Rampe_Entre(b.pelage[0], b.pelage[1]), false));
+        f.Ellipse(CX, cy, rx + 0.5, ry, pelage);
+        f.Rectangle(static_cast<int>(CX) - 1, static_cast<int>(cy - ry + 2), 2, static_cast<int>(ry * 1.2), f.Matiere(Rampe_Entre(b.pelage[0], b.pelage[1]), false));
         if (!b.queueLongue) f.Ellipse(CX, cy + ry - 1, 1.5, 1.5, pelage);
         sortie = f.Rendre();
     }
