@@ -262,5 +262,5 @@ private:
         return static_cast<int16_t>(table[static_cast<std::size_t>(i)].Effectif);
     }
     using BonusObjet = int16_t (ClsJeuParam::*)(int) const;
-    void Gagner_Experience(Jauge& j, double gain, GenreExperience genre, BonusObjet bonus, double gainObjet);
+    void Ecrire_Jauge(Jauge& j, double v, GenreExperience genre, bool ramener, BonusObjet bonus, double partObjets);
 };

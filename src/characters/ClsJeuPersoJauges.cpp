@@ -8,64 +8,46 @@
 #include "rules/Conversions.h"
 #include "world/Globales.h"
 
-// Experience of a loss: to the gauge itself, and, when objects raise its maximum, to the
-// competence of each worn object that gives that bonus.
-void ClsJeuPerso::Gagner_Experience(Jauge& j, double gain, GenreExperience genre, BonusObjet bonus,
-                                    double gainObjet) {
-    Ajouter_Experience(j.MaxBase, gain, j.Exp, j.Niveau, j.SeuilBas, j.SeuilHaut, genre);
-    if (j.Bonus() > 0)
-        Partager_Experience_Objets(*this, gainObjet, Param, [bonus](int16_t o) { return (Param.*bonus)(o); });
+// A write below the gauge earns experience: the loss itself, or the loss scaled back to the
+// maximum without objects; worn objects that raise this maximum get a share. The gauge then
+// stays between 0 and its maximum.
+void ClsJeuPerso::Ecrire_Jauge(Jauge& j, double v, GenreExperience genre, bool ramener, BonusObjet bonus,
+                               double partObjets) {
+    if (v < j.Valeur) {
+        const double perte = j.Valeur - v;
+        const double gain = ramener ? perte * j.MaxBase / static_cast<double>(j.Max) : perte;
+        Ajouter_Experience(j.MaxBase, gain, j.Exp, j.Niveau, j.SeuilBas, j.SeuilHaut, genre);
+        if (j.Bonus() > 0)
+            Partager_Experience_Objets(*this, gain * partObjets, Param,
+                                       [bonus](int16_t o) { return (Param.*bonus)(o); });
+    }
+    j.Valeur = std::clamp(v, 0.0, static_cast<double>(j.Max));
 }
 
-namespace {
-double Ramenee_A_La_Base(const Jauge& j, double perte) {
-    return perte * j.MaxBase / static_cast<double>(j.Max);
-}
-}  // namespace
-
+// A fatal blow earns nothing: the gauge is already 0 when the loss is measured.
 void ClsJeuPerso::Definir_Vie(double v) {
     if (Vivant() && v <= 0) {
         v = 0;
         Vivant(false);
     }
-    if (v < Vie.Valeur) {
-        const double gain = Ramenee_A_La_Base(Vie, Vie.Valeur - v);
-        Gagner_Experience(Vie, gain, GenreJauge, &ClsJeuParam::Objet_BonusVie, gain * 0.2);
-    }
-    Vie.Valeur = std::clamp(v, 0.0, static_cast<double>(Vie.Max));
+    Ecrire_Jauge(Vie, v, GenreJauge, true, &ClsJeuParam::Objet_BonusVie, 0.2);
 }
 
 void ClsJeuPerso::Definir_Energie(double v) {
-    if (v < Energie.Valeur) {
-        const double perte = Energie.Valeur - v;
-        Gagner_Experience(Energie, perte, GenreJauge, &ClsJeuParam::Objet_BonusEnergie, 2 * perte);
-    }
-    Energie.Valeur = std::clamp(v, 0.0, static_cast<double>(Energie.Max));
+    Ecrire_Jauge(Energie, v, GenreJauge, false, &ClsJeuParam::Objet_BonusEnergie, 2);
 }
 
 void ClsJeuPerso::Definir_Magie(double v) {
-    if (v < Magie.Valeur) {
-        const double gain = Ramenee_A_La_Base(Magie, Magie.Valeur - v);
-        Gagner_Experience(Magie, gain, GenreJauge, &ClsJeuParam::Objet_BonusMagie, gain * 0.2);
-    }
-    Magie.Valeur = std::clamp(v, 0.0, static_cast<double>(Magie.Max));
+    Ecrire_Jauge(Magie, v, GenreJauge, true, &ClsJeuParam::Objet_BonusMagie, 0.2);
 }
 
 void ClsJeuPerso::Definir_Moral(double v) {
-    if (v < Moral.Valeur) {
-        const double perte = Moral.Valeur - v;
-        Gagner_Experience(Moral, perte, GenreJauge, &ClsJeuParam::Objet_BonusMoral, 10 * perte);
-    }
-    Moral.Valeur = std::clamp(v, 0.0, static_cast<double>(Moral.Max));
+    Ecrire_Jauge(Moral, v, GenreJauge, false, &ClsJeuParam::Objet_BonusMoral, 10);
 }
 
 void ClsJeuPerso::Definir_Attaque(double v) {
     v = std::clamp(v, 0.0, static_cast<double>(Attaque.Max));
-    if (v < Attaque.Valeur) {
-        const double gain = Ramenee_A_La_Base(Attaque, Attaque.Valeur - v);
-        Gagner_Experience(Attaque, gain, GenreCombat, &ClsJeuParam::Objet_BonusAttaque, gain * 0.1);
-    }
-    Attaque.Valeur = v;
+    Ecrire_Jauge(Attaque, v, GenreCombat, true, &ClsJeuParam::Objet_BonusAttaque, 0.1);
 }
 
 // Armour is a floor that no blow removes.
@@ -74,11 +56,7 @@ void ClsJeuPerso::Definir_Defense(double v) {
         v = Armure;
     else if (v > Defense.Max)
         v = Defense.Max;
-    if (v < Defense.Valeur) {
-        const double gain = Ramenee_A_La_Base(Defense, Defense.Valeur - v);
-        Gagner_Experience(Defense, gain, GenreCombat, &ClsJeuParam::Objet_BonusDefense, gain * 0.1);
-    }
-    Defense.Valeur = v;
+    Ecrire_Jauge(Defense, v, GenreCombat, true, &ClsJeuParam::Objet_BonusDefense, 0.1);
 }
 
 void ClsJeuPerso::Definir_MaxVie(double v) { Vie.MaxBase = Arrondir_En<int32_t>(v); }
