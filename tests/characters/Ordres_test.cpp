@@ -1,9 +1,16 @@
 #include "characters/Ordres.h"
 
+#include <string>
+#include <tuple>
+#include <utility>
+
 #include "ReglesParDefaut.h"
 #include "characters/ClsJeuPerso.h"
 
 namespace {
+
+using XY = std::pair<int32_t, int32_t>;
+XY Destination(const ClsJeuPerso& p) { return {p.DestinationX, p.DestinationY}; }
 
 class Ordres : public ReglesParDefaut {
 protected:
@@ -29,7 +36,7 @@ protected:
     }
 };
 
-TEST_F(Ordres, ChaqueCodeDeLaTableSEcritEtSeRelitParSonTexte) {
+TEST_F(Ordres, ChaqueCodeSeRelitParSonTexteEtLeResteSeLitAuTravail) {
     ClsJeuPerso& p = P(0);
     for (int16_t code : {0, 1, 2, 3, 6, 7, 100, 101, 102, 201, 202, 203, 300, 301, 302, 400, 500, 600}) {
         p.Definir_Action(code);
@@ -39,199 +46,80 @@ TEST_F(Ordres, ChaqueCodeDeLaTableSEcritEtSeRelitParSonTexte) {
         p.Definir_Action_Texte(texte, Param);
         EXPECT_EQ(p.Definir_Action(), code) << texte;
     }
-    p.Definir_Action(0);
-    EXPECT_EQ(p.Texte_Action(Param), "En attente");
-    p.Definir_Action(202);
-    EXPECT_EQ(p.Texte_Action(Param), "Retourner château");
-    p.Definir_Action(400);
-    EXPECT_EQ(p.Texte_Action(Param), "Préparer resurrection");
-}
-
-TEST_F(Ordres, UnCodeOuUnTexteHorsTableSeLitAuTravail) {
-    ClsJeuPerso& p = P(0);
     for (int16_t code : {103, 5, -1, 999, 4}) {
         p.Definir_Action(code);
         EXPECT_EQ(p.Definir_Action(), 102) << code;
         EXPECT_EQ(p.Texte_Action(Param), "Au travail");
     }
-    p.Definir_Action_Texte("N'importe quoi", Param);
-    EXPECT_EQ(p.Definir_Action(), 102);
-    EXPECT_EQ(p.Texte_Action(Param), "Au travail");
-    p.Definir_Action_Texte("en attente", Param);   // the texts compare exactly
-    EXPECT_EQ(p.Definir_Action(), 102);
-}
+    for (const char* texte : {"N'importe quoi", "en attente"}) {   // the texts compare exactly
+        p.Definir_Action(0);
+        p.Definir_Action_Texte(texte, Param);
+        EXPECT_EQ(p.Texte_Action(Param), "Au travail") << texte;
+    }
 
-TEST_F(Ordres, UnNomDeMetierSAfficheSeLit102EtSEffaceALaProchaineAction) {
-    ClsJeuPerso& p = P(0);
-    const std::string& metier = Param.Ressources_NomCompetence(3);
+    // A trade name reads back as 102 and shows again, until the next action.
+    const std::string metier(Param.Ressources_NomCompetence(3));
     ASSERT_FALSE(metier.empty());
-    p.Definir_Action_Metier(3);
-    EXPECT_EQ(p.Definir_Action(), 102);
-    EXPECT_EQ(p.Texte_Action(Param), metier);
-    EXPECT_FALSE(p.Inactif());
-
-    p.Definir_Action(103);   // what a walker at 102 writes
-    EXPECT_EQ(p.Texte_Action(Param), "Au travail");
-
-    p.Definir_Action_Texte(metier, Param);   // a trade name read back shows again
+    p.Definir_Action_Texte(metier, Param);
     EXPECT_EQ(p.Definir_Action(), 102);
     EXPECT_EQ(p.Texte_Action(Param), metier);
     p.Arreter();
     EXPECT_EQ(p.Texte_Action(Param), "En attente");
 }
 
-TEST_F(Ordres, AllerAEtArreter) {
+TEST_F(Ordres, LesDestinationsVisentLeCentreArrondiAuPairOuLaPorteEtJamaisUneRuine) {
     ClsJeuPerso& p = P(0);
-    p.PositionX = 40;
-    p.PositionY = 50;
-    p.RessourceRecoltee = 2;
-    p.Aller_A(400, 500);
-    EXPECT_EQ(p.DestinationX, 400);
-    EXPECT_EQ(p.DestinationY, 500);
-    EXPECT_EQ(p.Definir_Action(), 1);
-    EXPECT_EQ(p.RessourceRecoltee, 2);   // nothing else changes
-
-    p.Arreter();
-    EXPECT_EQ(p.DestinationX, 40);
-    EXPECT_EQ(p.DestinationY, 50);
-    EXPECT_EQ(p.Definir_Action(), 0);
-    EXPECT_EQ(p.RessourceRecoltee, -1);
-    EXPECT_TRUE(p.Inactif());
-
-    p.DansSaMaison = true;
-    p.Arreter();
-    EXPECT_EQ(p.Definir_Action(), 100);
-    EXPECT_TRUE(p.Inactif());
-}
-
-TEST_F(Ordres, AllerRessourceViseLeCentreDuGisementArrondiAuPair) {
-    ClsJeuPerso& p = P(0);
-    ClsJeuRessources gisement;
-    gisement.PositionX = 101;
-    gisement.PositionY = 50;
-    gisement.Quantite = 0;   // an empty deposit is aimed at all the same
+    ClsJeuRessources gisement{101, 50, "", 0, 0, 0, 0};   // an empty deposit is aimed at all the same
     p.Aller_Ressource(gisement, 7, 33, 32);
-    EXPECT_EQ(p.DestinationX, 106);   // 16.5 + 101 - 12 = 105.5
-    EXPECT_EQ(p.DestinationY, 50);
-    EXPECT_EQ(p.RessourceCible, 7);
-    EXPECT_EQ(p.Definir_Action(), 3);
+    EXPECT_EQ(std::tuple(Destination(p), p.RessourceCible, p.Definir_Action()), std::tuple(XY(106, 50), 7, 3));   // 105.5
     gisement.PositionX = 100;
     p.Aller_Ressource(gisement, 7, 33, 32);
     EXPECT_EQ(p.DestinationX, 104);   // 104.5
-}
 
-TEST_F(Ordres, RentrerMaisonVaALaPorteEtChoisitEntreRentrerEtConstruire) {
-    ClsJeuPerso& p = P(1);
     ClsJeuBatiment& m = Maison(1, true);
-    p.DansSaMaison = true;
-    p.Rentrer_Maison(m);
-    EXPECT_EQ(p.DestinationX, 212);   // 24 + 200 - 12
-    EXPECT_EQ(p.DestinationY, 316);   // 24 + 300 - 16 + 8
-    EXPECT_EQ(p.MaisonCible, 1);
-    EXPECT_EQ(p.Definir_Action(), 101);
-    EXPECT_TRUE(p.DansSaMaison);
-
+    P(1).DansSaMaison = true;
+    P(1).Rentrer_Maison(m);   // 24 + 200 - 12, 24 + 300 - 16 + 8
+    EXPECT_EQ(std::tuple(Destination(P(1)), P(1).MaisonCible, P(1).Definir_Action()), std::tuple(XY(212, 316), 1, 101));
     m.Definir_Vie(499);   // finished but hurt: to be repaired
-    p.Rentrer_Maison(m);
-    EXPECT_EQ(p.Definir_Action(), 7);
-    EXPECT_FALSE(p.DansSaMaison);
-
+    P(1).Rentrer_Maison(m);
+    EXPECT_EQ(P(1).Definir_Action(), 7);
+    EXPECT_FALSE(P(1).DansSaMaison);
     ClsJeuBatiment& chantier = Maison(2, false);
-    P(2).Rentrer_Maison(chantier);
-    EXPECT_EQ(P(2).Definir_Action(), 7);
-    P(2).Definir_Vie(0);   // the dead go home whatever the state of the house
-    P(2).Rentrer_Maison(chantier);
-    EXPECT_EQ(P(2).Definir_Action(), 101);
-}
+    chantier.EntreePositionX = -5;
+    p.Aller_Maison(chantier, 23, 31);   // 207.5 and 316.5
+    EXPECT_EQ(std::tuple(Destination(p), p.MaisonCible, p.Definir_Action()), std::tuple(XY(208, 316), 2, 201));
 
-TEST_F(Ordres, AllerMaisonEntreParLaPorte) {
-    ClsJeuPerso& p = P(0);
-    ClsJeuBatiment& m = Maison(2, false);
-    m.EntreePositionX = -5;   // 24 + 200 - 12 - 5
-    p.Aller_Maison(m, 23, 31);
-    EXPECT_EQ(p.DestinationX, 208);   // 207.5, ties to even
-    EXPECT_EQ(p.DestinationY, 316);   // 24 + 300 - 15.5 + 8 = 316.5
-    EXPECT_EQ(p.MaisonCible, 2);
-    EXPECT_EQ(p.Definir_Action(), 201);
-}
-
-TEST_F(Ordres, UnOrdreVersUnBatimentTombeNeFaitRien) {
-    ClsJeuPerso& p = P(0);
-    ClsJeuBatiment& m = Maison(1, true);
-    m.Definir_Vie(0);
-    p.Aller_A(10, 20);
-    p.Rentrer_Maison(m);
-    p.Aller_Maison(m);
-    p.Rentrer_Chateau(m, 112, 112);
-    p.Aller_Chateau(m, 1, 112, 112);
-    EXPECT_EQ(p.Definir_Action(), 1);
-    EXPECT_EQ(p.DestinationX, 10);
-    EXPECT_EQ(p.DestinationY, 20);
-    EXPECT_EQ(p.MaisonCible, 0);
-    EXPECT_EQ(p.ChateauCible, 0);
-}
-
-TEST_F(Ordres, LeChateauSeViseEnSonCentre) {
-    ClsJeuPerso& p = P(0);
-    ClsJeuBatiment chateau;
-    chateau.PositionX = 1000;
-    chateau.PositionY = 2000;
-    chateau.MaxVie = 4000;
-    chateau.Definir_Vie(4000);
-    p.Rentrer_Chateau(chateau, Param.ChateauxLargeur, Param.ChateauxHauteur);
-    EXPECT_EQ(p.DestinationX, Coin_Pour_Centrer(1000, Param.ChateauxLargeur, 24));
-    EXPECT_EQ(p.DestinationX, 1000 + Param.ChateauxLargeur / 2 - 12);
-    EXPECT_EQ(p.DestinationY, 2000 + Param.ChateauxHauteur / 2 - 16);
+    Chateaux[0].PositionX = 1000;
+    Chateaux[0].PositionY = 2000;
+    Initialiser_Chateau(Chateaux[0], Fiefs[0], Param);
+    p.Rentrer_Chateau(Chateaux[0], Param.ChateauxLargeur, Param.ChateauxHauteur);
+    EXPECT_EQ(Destination(p), XY(1000 + Param.ChateauxLargeur / 2 - 12, 2000 + Param.ChateauxHauteur / 2 - 16));
     EXPECT_EQ(p.Definir_Action(), 202);
-    EXPECT_EQ(p.ChateauCible, 0);   // only Aller_Chateau names the castle
-    p.Aller_Chateau(chateau, 4, Param.ChateauxLargeur, Param.ChateauxHauteur);
-    EXPECT_EQ(p.Definir_Action(), 203);
-    EXPECT_EQ(p.ChateauCible, 4);
-}
+    p.Aller_Chateau(Chateaux[0], 4, Param.ChateauxLargeur, Param.ChateauxHauteur);
+    EXPECT_EQ(std::tuple(p.Definir_Action(), p.ChateauCible), std::tuple(203, 4));
 
-TEST_F(Ordres, AttaquerFaitSortirDesBatimentsEtFrapperAussitot) {
-    ClsJeuPerso& p = P(0);
-    p.Visible(false);
-    p.AttaqueImmediate = false;
-    p.Attaquer_Perso(2);
-    EXPECT_EQ(p.Definir_Action(), 300);
-    EXPECT_EQ(p.PersoCible, 2);
-    EXPECT_TRUE(p.Visible());
-    EXPECT_TRUE(p.AttaqueImmediate);
-    EXPECT_TRUE(p.EnCombat());
-
-    p.DansChateau = true;
-    p.AttaqueImmediate = false;
-    p.Attaquer_Maison(1);
-    EXPECT_EQ(p.Definir_Action(), 301);
-    EXPECT_EQ(p.MaisonCible, 1);
-    EXPECT_TRUE(p.Visible());
-    EXPECT_TRUE(p.AttaqueImmediate);
-
-    p.Attaquer_Chateau(3);
-    EXPECT_EQ(p.Definir_Action(), 302);
-    EXPECT_EQ(p.ChateauCible, 3);
-    EXPECT_EQ(p.PersoCible, 2);   // the other targets stay
-    EXPECT_EQ(p.MaisonCible, 1);
+    // An order toward a fallen building does nothing.
+    m.Definir_Vie(0);
+    P(2).Aller_A(10, 20);
+    P(2).Rentrer_Maison(m);
+    P(2).Aller_Maison(m);
+    P(2).Rentrer_Chateau(m, 112, 112);
+    P(2).Aller_Chateau(m, 1, 112, 112);
+    EXPECT_EQ(std::tuple(Destination(P(2)), P(2).Definir_Action(), P(2).MaisonCible, P(2).ChateauCible),
+              std::tuple(XY(10, 20), 1, 0, 0));
 }
 
 TEST_F(Ordres, LePasSuitLaVitesseEtLaFormeSansJamaisTomberAZero) {
     ClsJeuPerso& p = P(0);
-    p.Vitesse = 5;
-    p.CoefForme = 0.875;
-    p.Calculer_Longueur_Pas();
-    EXPECT_EQ(p.LongueurPas, 4);   // Int(4.375)
-    p.Vitesse = 3;
-    p.CoefForme = 0.1;
-    p.Calculer_Longueur_Pas();
-    EXPECT_EQ(p.LongueurPas, 1);   // Int(0.3) is 0: a step of 1 all the same
-    p.Vitesse = 0;
-    p.Calculer_Longueur_Pas();
-    EXPECT_EQ(p.LongueurPas, 1);
-    p.Vitesse = 40;
-    p.Definir_Vie(0);
-    p.Calculer_Longueur_Pas();
-    EXPECT_EQ(p.LongueurPas, 6);
+    for (const auto& [vitesse, forme, vie, pas] :
+         {std::tuple{5, 0.875, 100.0, 4}, std::tuple{3, 0.1, 100.0, 1}, std::tuple{0, 1.0, 100.0, 1},
+          std::tuple{40, 1.0, 0.0, 6}}) {
+        p.Vitesse = vitesse;
+        p.CoefForme = forme;
+        p.Vie.Valeur = vie;   // the dead walk at 6
+        p.Calculer_Longueur_Pas();
+        EXPECT_EQ(p.LongueurPas, pas) << vitesse << ' ' << forme;
+    }
 }
 
 }  // namespace
