@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+#include <utility>
+
 #include "MondeDeTest.h"
 #include "rules/Hasard.h"
 #include "session/PreparerPartie.h"
@@ -15,62 +18,33 @@ protected:
     }
 };
 
-TEST_F(CarteMonde, UnPixelParCaseAvecLeTerrainDessous) {
-    Definir_Graine(1);
-    ASSERT_TRUE(Preparer_Partie(Nouveau_Monde({{0, 0, 3}, {1, 0, 3}}, 20)));
-    const ImageCarte image = Dessiner_Carte();
-    ASSERT_EQ(image.Largeur, 100);
-    ASSERT_EQ(image.Hauteur, 80);
-    ASSERT_EQ(image.Pixels.size(), 8000u);
-    int32_t terrain = 0;
-    for (int32_t y = 0; y < 80; ++y)
-        for (int32_t x = 0; x < 100; ++x) {
-            const PixelCarte& p = image.Pixel(x, y);
-            const bool patch = Monde.Type_Terrain(Monde.Indice_Case(x, y)) != 0;
-            if (p.Quoi == Tache::Sol) EXPECT_FALSE(patch) << x << ',' << y;
-            if (p.Quoi == Tache::Terrain) {
-                EXPECT_TRUE(patch) << x << ',' << y;
-                ++terrain;
-            }
-        }
-    EXPECT_GT(terrain, 0);
-}
-
-TEST_F(CarteMonde, ChateauxGisementsEtVillageoisSontALeurPlace) {
+TEST_F(CarteMonde, UnPixelParCaseEtChaqueChoseASaPlace) {
     Definir_Graine(2);
     ASSERT_TRUE(Preparer_Partie(Nouveau_Monde({{0, 0, 3}, {4, 0, 3}}, 20)));
     const ImageCarte image = Dessiner_Carte();
+    ASSERT_EQ(std::tuple(image.Largeur, image.Hauteur, image.Pixels.size()), std::tuple(100, 80, 8000u));
+    int32_t terrain = 0;
+    for (int32_t y = 0; y < 80; ++y)
+        for (int32_t x = 0; x < 100; ++x) {
+            const Tache quoi = image.Pixel(x, y).Quoi;
+            const bool patch = Monde.Type_Terrain(Monde.Indice_Case(x, y)) != 0;
+            EXPECT_TRUE(quoi != Tache::Sol || !patch) << x << ',' << y;
+            EXPECT_TRUE(quoi != Tache::Terrain || patch) << x << ',' << y;
+            terrain += quoi == Tache::Terrain;
+        }
+    EXPECT_GT(terrain, 0);
     for (std::size_t f = 0; f < Chateaux.size(); ++f) {
-        const ClsJeuBatiment& c = Chateaux[f];
-        const PixelCarte& coin = image.Pixel(c.PositionX / TailleCase + 1, c.PositionY / TailleCase + 1);
-        EXPECT_EQ(coin.Quoi, Tache::Chateau);
-        EXPECT_EQ(coin.Teinte, Fiefs[f].Equipe);
+        const PixelCarte& coin = image.Pixel(Chateaux[f].PositionX / TailleCase + 1, Chateaux[f].PositionY / TailleCase + 1);
+        EXPECT_EQ(std::tuple(coin.Quoi, coin.Teinte), std::tuple(Tache::Chateau, Fiefs[f].Equipe));
     }
-    // The villagers stand at the centre of their castle, drawn over it.
-    const ClsJeuPerso& p = Persos[4];
-    const PixelCarte& centre = image.Pixel((p.PositionX + 12) / TailleCase, (p.PositionY + 16) / TailleCase);
-    EXPECT_EQ(centre.Quoi, Tache::Perso);
-    EXPECT_EQ(centre.Teinte, 4);
-    for (const ClsJeuRessources& r : Ressources) {
-        EXPECT_EQ(Quoi(image, r.PositionX, r.PositionY), Tache::Gisement);
-        EXPECT_EQ(Quoi(image, r.PositionX + 31, r.PositionY + 31), Tache::Gisement);
-    }
-}
-
-TEST_F(CarteMonde, CeQuiDepasseLaCarteEstCoupeEtLesMortsNeSontPasDessines) {
-    Definir_Graine(3);
-    ASSERT_TRUE(Preparer_Partie(Bataille(5, 5)));
-    Persos[1].PositionX = -10;   // half off the bottom left corner
-    Persos[1].PositionY = 120 * 16 - 10;
-    Persos[2].PositionX = 160 * 16 + 50;
-    Persos[3].PositionX = 2000;
-    Persos[3].PositionY = 1500;
-    Persos[3].Vie.Valeur = 0;
-    const ImageCarte image = Dessiner_Carte();
-    EXPECT_EQ(image.Pixel(0, 119).Quoi, Tache::Perso);
-    EXPECT_NE(Quoi(image, 2000, 1500), Tache::Perso);
-    Persos[3].Vie.Valeur = 1;
-    EXPECT_EQ(Quoi(Dessiner_Carte(), 2000, 1500), Tache::Perso);
+    // The villagers stand at the centre of their castle, drawn over it while they live.
+    const int32_t x = (Persos[4].PositionX + 12) / TailleCase, y = (Persos[4].PositionY + 16) / TailleCase;
+    EXPECT_EQ(std::tuple(image.Pixel(x, y).Quoi, image.Pixel(x, y).Teinte), std::tuple(Tache::Perso, 4));
+    for (std::size_t i = 3; i < 6; ++i) Persos[i].Vie.Valeur = 0;
+    EXPECT_EQ(Dessiner_Carte().Pixel(x, y).Quoi, Tache::Chateau);
+    for (const ClsJeuRessources& r : Ressources)
+        EXPECT_EQ(std::pair(Quoi(image, r.PositionX, r.PositionY), Quoi(image, r.PositionX + 31, r.PositionY + 31)),
+                  std::pair(Tache::Gisement, Tache::Gisement));
 }
 
 TEST_F(CarteMonde, LeFichierEstUnPGMOuUnPPMSelonSonNom) {
@@ -79,24 +53,20 @@ TEST_F(CarteMonde, LeFichierEstUnPGMOuUnPPMSelonSonNom) {
     const ImageCarte image = Dessiner_Carte();
     ASSERT_TRUE(Ecrire_Carte(image, dossier.Chemin() / "monde.pgm"));
     ASSERT_TRUE(Ecrire_Carte(image, dossier.Chemin() / "monde.PPM"));
+    EXPECT_FALSE(Ecrire_Carte(image, dossier.Chemin() / "absent" / "monde.pgm"));
     const std::string gris = dossier.Lire("monde.pgm");
     const std::string couleur = dossier.Lire("monde.PPM");
-    const std::string entete = "100 80\n255\n";
-    EXPECT_EQ(gris.substr(0, 3 + entete.size()), "P5\n" + entete);
-    EXPECT_EQ(couleur.substr(0, 3 + entete.size()), "P6\n" + entete);
-    EXPECT_EQ(gris.size(), 3 + entete.size() + 8000);
-    EXPECT_EQ(couleur.size(), 3 + entete.size() + 3 * 8000);
+    const std::string entete = "100 80\n255\n";   // 14 bytes with the magic number
+    EXPECT_EQ(std::pair(gris.substr(0, 14), couleur.substr(0, 14)), std::pair("P5\n" + entete, "P6\n" + entete));
+    ASSERT_EQ(std::pair(gris.size(), couleur.size()), std::pair(14 + 8000ul, 14 + 3 * 8000ul));
     // In grey, a villager is black and open ground the lightest shade.
-    const ClsJeuPerso& p = Persos[1];
-    const std::size_t debut = 3 + entete.size();
     const auto octet = [&](int32_t x, int32_t y) {
-        return static_cast<unsigned char>(gris[debut + static_cast<std::size_t>(y * 100 + x)]);
+        return static_cast<unsigned char>(gris[14 + static_cast<std::size_t>(y * 100 + x)]);
     };
-    EXPECT_EQ(octet((p.PositionX + 12) / 16, (p.PositionY + 16) / 16), 0);
+    EXPECT_EQ(octet((Persos[1].PositionX + 12) / 16, (Persos[1].PositionY + 16) / 16), 0);
     for (int32_t y = 0; y < 80; ++y)
         for (int32_t x = 0; x < 100; ++x)
-            if (image.Pixel(x, y).Quoi == Tache::Sol) ASSERT_EQ(octet(x, y), 235);
-    EXPECT_FALSE(Ecrire_Carte(image, dossier.Chemin() / "absent" / "monde.pgm"));
+            ASSERT_TRUE(image.Pixel(x, y).Quoi != Tache::Sol || octet(x, y) == 235) << x << ',' << y;
 }
 
 }  // namespace
