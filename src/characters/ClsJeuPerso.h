@@ -17,6 +17,7 @@ class ClsJeuParam;
 class ClsJeuFief;
 class ClsJeuBatiment;
 class ClsJeuRessources;
+class ClsJeuCommentaires;
 struct CiblesDeplacement;
 
 // Every character stands in a box of 24 × 32 metres.
@@ -226,14 +227,65 @@ public:
     void Changer_Attitude() { Attitude = static_cast<int16_t>((Attitude + 1) % 2); }
     void Changer_Formation() { Formation = static_cast<int16_t>((Formation + 1) % 5); }
 
-    // Objects carried and worn.
+    // Work, one tick each, run by the arrival code. A tick's output is a fraction that grows
+    // with the worker's level and form; it costs energy, morale and raw material and earns
+    // experience. commentaire receives 0 when everything is full, 1 when raw material is short.
+    void Recolter_Ressources(int r, ClsJeuBatiment& maison, int32_t& commentaire, const ClsJeuParam& param);
+    void Preparer_Service(ClsJeuBatiment& maison, int32_t& commentaire, const ClsJeuParam& param);
+    // Building; a house finished by a fief's people that belongs to a later epoch starts the
+    // fief's climb to the next one.
+    void Batir_Maison(ClsJeuFief& fief, ClsJeuBatiment& chateau, ClsJeuBatiment& maison, const ClsJeuParam& param);
+    bool PeutConstruire_Maison(int type, const ClsJeuParam& param) const;
+    // Making line n of the house's object list; its price is paid when it is finished.
+    void Creer_Objet(int n, const ClsJeuBatiment& maison, const ClsJeuParam& param);
+    void Fabriquer_Objet(const ClsJeuParam& param, ClsJeuBatiment& maison, int32_t& commentaire);
+    bool PeutConstruire_Objet(int n, const ClsJeuBatiment& maison, const ClsJeuParam& param) const;
+
+    // Eating fills the reserves, which flow into the gauges through Recuperation; a gain
+    // scales with the eater's effective maxima.
+    void Manger_Ressources(int r, const ClsJeuParam& param);
+    double Manger_Ressources_Coef(int i) const;
+    // One meal of the first food that feeds that gauge, just what the gauge can hold; the
+    // Auto forms eat only when the gauge is not full.
+    void Recuperer_Vie(const ClsJeuParam& param);
+    void Recuperer_Energie(const ClsJeuParam& param);
+    void Recuperer_Magie(const ClsJeuParam& param);
+    void Recuperer_Moral(const ClsJeuParam& param);
+    void Recuperer_AutoVie(const ClsJeuParam& param);
+    void Recuperer_AutoEnergie(const ClsJeuParam& param);
+    void Recuperer_AutoMagie(const ClsJeuParam& param);
+    void Recuperer_AutoMoral(const ClsJeuParam& param);
+
+    // Objects carried and worn. A slot number outside its row, or an empty slot, does nothing.
     bool Inventaire_Plein() const;
     // Puts a new object into the first empty inventory slot (lost if there is none), and
     // wears it at once when asked, if it is worn and fits without removing anything.
     void Objet_Ajouter_Inventaire(int16_t type, const ClsJeuParam& param, bool equiper);
     bool Objet_Emplacement_Libre(int16_t type, const ClsJeuParam& param) const;
-    // Wears the worn object of an inventory slot, making room as its category says.
-    void Objet_Porter(int slot, const ClsJeuParam& param);
+    // Wears the object of an inventory slot, making room as its category says; an object
+    // that is used rather than worn is used, if the gauges can pay for it (comments 17 to 20).
+    void Objet_Equiper(int slot, const ClsJeuParam& param, const ClsJeuCommentaires& commentaires);
+    // Back to the inventory, refused when the inventory is full.
+    void Objet_Ranger(int slot, const ClsJeuParam& param);
+    void Objet_Ranger_Armes(const ClsJeuParam& param);
+    // Objects of a house's list n: taken from its stock, or bought at the bargained price.
+    void Objet_Ramasser_Maison(int n, ClsJeuBatiment& maison, const ClsJeuParam& param);
+    void Objet_Acheter_Maison(int n, ClsJeuBatiment& maison, const ClsJeuParam& param);
+    // Gives an inventory object to the house; what it cannot take is dropped.
+    void Objet_Deposer_Maison(int slot, ClsJeuBatiment& maison, const ClsJeuParam& param);
+    void Objet_Deposer_Sol(int slot) { Objet_Inventaire_Detruire(slot); }
+    void Objet_Inventaire_Detruire(int slot);
+    void Objet_Equipes_Detruire(int slot);
+    void Objet_Equipes_Vider_Tout();
+    void Objet_Inventaire_Vider_Tout();
+    // The castle pays the full price, without bargaining; the fief gets nothing.
+    void Objet_Vendre_Chateau(int slot, const ClsJeuParam& param);
+    bool Objet_Posseder(int16_t type) const { return Objet_NombreType(type) >= 1; }
+    int32_t Objet_NombreType(int16_t type) const;
+    bool Objet_Equipes_2_Mains(const ClsJeuParam& param) const;
+    // Loading a saved record: the object goes into the slot with no other rule.
+    void Objet_Equipe_Charger(int slot, int16_t type);
+    void Objet_Inventaire_Charger(int slot, int16_t type);
 
     // Levels and competences.
     void Ajouter_Experience(int32_t& valeur, double gain, double& exp, int32_t& compte, double& bas,
@@ -261,6 +313,8 @@ private:
     static int16_t Effectif(const std::vector<Competence>& table, int i) {
         return static_cast<int16_t>(table[static_cast<std::size_t>(i)].Effectif);
     }
+    // Wears the worn object of an inventory slot, making room as its category says.
+    void Objet_Porter(int slot, const ClsJeuParam& param);
     using BonusObjet = int16_t (ClsJeuParam::*)(int) const;
     void Ecrire_Jauge(Jauge& j, double v, GenreExperience genre, bool ramener, BonusObjet bonus, double partObjets);
 };
