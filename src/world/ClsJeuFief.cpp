@@ -115,6 +115,7 @@ void ClsJeuFief::Empreindre(Empreinte& e) const {
     e.Ajouter(NombreMorts);
     e.Ajouter(TresorRestauration);
     e.Ajouter(Ressources);
+    e.Ajouter(ObjetsFabriques);
 }
 
 // Monster fiefs have no epochs to their castle: only a human fief adds the bonuses.

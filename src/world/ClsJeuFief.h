@@ -26,6 +26,7 @@ public:
     int32_t NombreMorts = 0;
     double TresorRestauration = 0;  // money given towards the castle's repair
     std::vector<double> Ressources;   // market stock, one entry per resource
+    int32_t ObjetsFabriques = 0;      // figures: objects its people have finished making
 
     // Sizes the market stock; the caller fills the rest.
     void Init(const ClsJeuParam& param);
