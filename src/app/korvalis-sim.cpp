@@ -1,5 +1,7 @@
 // korvalis-sim: a headless game from a seed and plain choices. Prints key=value lines:
 // the seed, the ticks done, the time taken, a hash of the whole state and per-fief figures.
+// With --ordres, a script of orders drives characters at the ticks it names; a script that
+// does not read, or names what the world does not have, stops the simulator before it runs.
 #include <chrono>
 #include <cstdint>
 #include <cstdlib>
@@ -15,6 +17,7 @@
 #include "rules/Hasard.h"
 #include "session/ModMain.h"
 #include "session/CarteMonde.h"
+#include "session/ScriptOrdres.h"
 #include "session/Simulation.h"
 #include "world/Globales.h"
 
@@ -24,13 +27,17 @@ constexpr const char* Usage =
     "usage : korvalis-sim [--dossier DIR] [--graine N] [--ticks T] [--monde nouveau|bataille]\n"
     "        [--fiefs N] [--villageois N] [--equipes E1,E2,…] [--peuples P1,P2,…] [--soldats N1,N2]\n"
     "        [--epoque E] [--largeur W] [--hauteur H] [--gisements N] [--etat]\n"
-    "        [--carte FICHIER.pgm|FICHIER.ppm]\n"
+    "        [--carte FICHIER.pgm|FICHIER.ppm] [--ordres FICHIER]\n"
     "--carte écrit l'image du monde à la fin, un pixel par case (PPM en couleur, PGM en gris).\n"
-    "Les équipes, peuples et époques comptent à partir de 0. Sans option, les valeurs\n"
-    "viennent de Ini_Partie du dossier du jeu.\n";
+    "--ordres donne des ordres aux personnages, une ligne « TOUR PERSO ORDRE [ARGUMENTS] » :\n"
+    "  batir TYPE DX DY, recolter R, rentrer, chateau, aller X Y, arreter, fabriquer LIGNE,\n"
+    "  ramasser LIGNE, acheter MAISON LIGNE, vendre EMPL, equiper EMPL, ranger EMPL,\n"
+    "  deposer EMPL, manger R ; « ; » ou « # » commence un commentaire.\n"
+    "Les équipes, peuples, époques, personnages, types, lignes et emplacements comptent\n"
+    "à partir de 0. Sans option, les valeurs viennent de Ini_Partie du dossier du jeu.\n";
 
 struct Options {
-    std::optional<std::string> dossier, monde, carte;
+    std::optional<std::string> dossier, monde, carte, ordres;
     std::optional<uint64_t> graine;
     int64_t ticks = 0;
     std::optional<int32_t> fiefs, villageois, epoque, largeur, hauteur, gisements;
@@ -80,6 +87,7 @@ Options Lire_Options(int argc, char** argv) {
         else if (cle == "--hauteur") o.hauteur = entier();
         else if (cle == "--gisements") o.gisements = entier();
         else if (cle == "--carte") o.carte = v;
+        else if (cle == "--ordres") o.ordres = v;
         else Refuser("option inconnue " + cle);
     }
     if (o.monde && *o.monde != "nouveau" && *o.monde != "bataille") Refuser("--monde vaut nouveau ou bataille");
@@ -114,8 +122,20 @@ void Appliquer(const Options& o, ChoixPartie& choix) {
 
 }  // namespace
 
+// A script refused: its message, and the simulator stops before any tick.
+[[noreturn]] void Refuser_Ordres(const std::string& message) {
+    std::cerr << "korvalis-sim : " << message << '\n';
+    std::exit(2);
+}
+
 int main(int argc, char** argv) {
     const Options o = Lire_Options(argc, argv);
+    std::optional<ScriptOrdres> script;
+    if (o.ordres) {
+        std::string erreur;
+        script = ScriptOrdres::Lire(*o.ordres, erreur);
+        if (!script) Refuser_Ordres(erreur);
+    }
     if (!Trouver_Dossier_Jeu(o.dossier)) return 1;
     FenetreMuette fenetre;
     Demarrer_Programme(fenetre);
@@ -126,10 +146,15 @@ int main(int argc, char** argv) {
     Appliquer(o, choix);
     Creer_Heros_Actif();
 
+    // The time counts the building of the world, as it always has.
     const auto debut = std::chrono::steady_clock::now();
-    const std::optional<int64_t> fait = Simuler(choix, o.ticks);
-    if (!fait) return 1;
-    const int64_t ticks = *fait;
+    Simulateur simulateur;
+    if (!simulateur.Ouvrir(choix)) return 1;
+    if (script)
+        if (const auto faute = script->Verifier()) Refuser_Ordres(*faute);
+    ScriptOrdres* ordres = script ? &*script : nullptr;
+    while (simulateur.Ticks() < o.ticks && !FinPartie) simulateur.Passe(ordres);
+    const int64_t ticks = simulateur.Ticks();
     const double secondes = std::chrono::duration<double>(std::chrono::steady_clock::now() - debut).count();
 
     std::cout << "graine=" << graine << '\n'
@@ -139,6 +164,7 @@ int main(int argc, char** argv) {
               << "personnages=" << Persos.size() << '\n'
               << "empreinte=" << std::hex << std::setw(16) << std::setfill('0') << Empreinte_Etat() << std::dec << '\n'
               << "gisements=" << Ressources.size() << '\n';
+    if (script) std::cout << "ordres=" << script->Donnes() << '/' << script->Ordres().size() << '\n';
     Ecrire_Fiefs(std::cout);
     if (o.etat) Ecrire_Etat(std::cout);
     Ecrire_Abandons(std::cout);

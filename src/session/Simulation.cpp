@@ -7,7 +7,7 @@
 #include "rules/Conversions.h"
 #include "rules/Hasard.h"
 #include "rules/Horloge.h"
-#include "session/FrmMoteur2D.h"
+#include "session/ScriptOrdres.h"
 #include "world/Globales.h"
 #include "world/ModGenererMonde.h"
 
@@ -19,21 +19,24 @@ void Creer_Heros_Actif() {
     Persos[0].Init(0, Param);
 }
 
-std::optional<int64_t> Simuler(const ChoixPartie& choix, int64_t ticks) {
-    FenetreMuette fenetre;
-    EcranNul ecran;
-    SourisMuette souris;
-    ClavierMuet clavier;
-    FrmMoteur2D moteur(Peripheriques{fenetre, ecran, souris, clavier});
+Simulateur::Simulateur() : moteur_(Peripheriques{fenetre_, ecran_, souris_, clavier_}) {}
+
+bool Simulateur::Ouvrir(const ChoixPartie& choix) {
     Piloter_Horloge(0);
-    if (!moteur.Ouvrir(choix)) return std::nullopt;
-    // Each pass the driven clock moves on by one and a half periods: one tick and one render.
-    const float pas = 1.5f / static_cast<float>(Jeu.Definir_Vitesse());
-    while (moteur.NombreTours < ticks && !FinPartie) {
-        Avancer_Horloge(pas);
-        moteur.Passe();
-    }
-    return moteur.NombreTours;
+    return moteur_.Ouvrir(choix);
+}
+
+void Simulateur::Passe(ScriptOrdres* script) {
+    if (script != nullptr) script->Appliquer(moteur_.NombreTours);
+    Avancer_Horloge(1.5f / static_cast<float>(Jeu.Definir_Vitesse()));
+    moteur_.Passe();
+}
+
+std::optional<int64_t> Simuler(const ChoixPartie& choix, int64_t ticks, ScriptOrdres* script) {
+    Simulateur simulateur;
+    if (!simulateur.Ouvrir(choix)) return std::nullopt;
+    while (simulateur.Ticks() < ticks && !FinPartie) simulateur.Passe(script);
+    return simulateur.Ticks();
 }
 
 uint64_t Empreinte_Etat() {
@@ -47,13 +50,19 @@ void Ecrire_Fiefs(std::ostream& sortie) {
     for (std::size_t f = 0; f < Fiefs.size(); ++f) {
         const ClsJeuFief& fief = Fiefs[f];
         double argent = 0;
-        for (const ClsJeuPerso& p : Persos)
-            if (p.Fief == static_cast<int32_t>(f)) argent += p.Argent;
+        int32_t batiments = 0;   // houses finished and standing
+        for (std::size_t i = 0; i < Persos.size(); ++i) {
+            const ClsJeuPerso& p = Persos[i];
+            if (p.Fief != static_cast<int32_t>(f)) continue;
+            argent += p.Argent;
+            if (i < Maisons.size() && Maisons[i].Termine && Maisons[i].Visible()) ++batiments;
+        }
         double stock = 0;
         for (double q : fief.Ressources) stock += q;
         sortie << "fief=" << f << " epoque=" << fief.Epoque << " vivants=" << fief.NombreSujets - fief.NombreMorts
                << " morts=" << fief.NombreMorts << " argent=" << Texte_Nombre(argent)
-               << " stock=" << Texte_Nombre(stock) << '\n';
+               << " stock=" << Texte_Nombre(stock) << " batiments=" << batiments
+               << " objets=" << fief.ObjetsFabriques << '\n';
     }
 }
 

@@ -6,19 +6,46 @@
 #include <iosfwd>
 #include <optional>
 
+#include "platform/Peripheriques.h"
 #include "session/ChoixPartie.h"
+#include "session/FrmMoteur2D.h"
+
+class ScriptOrdres;
 
 // What the dialog does before a game: the active hero at index 0, a plain human of fief 0.
 void Creer_Heros_Actif();
 
-// Runs ticks ticks of a game set up from choix. Returns the ticks done, nothing when the
-// world could not be built.
-std::optional<int64_t> Simuler(const ChoixPartie& choix, int64_t ticks);
+// A headless game driven pass by pass: the real frame loop over the null devices, the
+// clock moved by hand.
+class Simulateur {
+public:
+    Simulateur();
+    // Builds the world; false when it could not be built.
+    bool Ouvrir(const ChoixPartie& choix);
+    // One pass: the clock moves on by one and a half periods of the tick rate, so that
+    // a tick and a render run. The script's orders due by the coming tick are given first.
+    void Passe(ScriptOrdres* script = nullptr);
+    // Ticks done since Ouvrir.
+    int64_t Ticks() const { return moteur_.NombreTours; }
+
+private:
+    FenetreMuette fenetre_;
+    EcranNul ecran_;
+    SourisMuette souris_;
+    ClavierMuet clavier_;
+    FrmMoteur2D moteur_;
+};
+
+// Runs ticks ticks of a game set up from choix, with the orders of script if there is one.
+// Returns the ticks done, nothing when the world could not be built. The script should be
+// checked against the world (ScriptOrdres::Verifier) by whoever needs to refuse it.
+std::optional<int64_t> Simuler(const ChoixPartie& choix, int64_t ticks, ScriptOrdres* script = nullptr);
 
 // Hash of the whole state: every record of the world and the random stream.
 uint64_t Empreinte_Etat();
 
-// One line per fief, and with etat one per character, one per deposit and one per castle.
+// One line per fief (epoch, living, dead, money, market stock, finished houses of its
+// people, objects they made), and with etat one per character, one per deposit and one per castle.
 void Ecrire_Fiefs(std::ostream& sortie);
 void Ecrire_Etat(std::ostream& sortie);
 // What the world generation dropped for want of room: "abandons=chateaux:C,gisements:G".
