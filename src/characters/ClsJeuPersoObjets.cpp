@@ -45,6 +45,18 @@ std::size_t Slot_Cible(const std::vector<ClsJeuObjet>& rangee, int16_t categorie
     }
 }
 
+// The highest equipment slot an object of this category may need; a row too short for it
+// (rules that ask for more slots than characters have) cannot wear it.
+std::size_t Dernier_Slot(int16_t categorie) {
+    switch (categorie) {
+        case 0:
+        case 1: return 1;
+        case 6:
+        case 7: return 7;
+        default: return static_cast<std::size_t>(categorie);
+    }
+}
+
 }  // namespace
 
 bool ClsJeuPerso::Inventaire_Plein() const {
@@ -78,6 +90,7 @@ void ClsJeuPerso::Objet_Porter(int slot, const ClsJeuParam& param) {
     ClsJeuObjet& source = ObjetsInventaire[static_cast<std::size_t>(slot)];
     const int16_t type = source.Type;
     const int16_t categorie = param.Objet_Categorie(type);
+    if (categorie < 0 || Dernier_Slot(categorie) >= ObjetsEquipes.size()) return;
 
     // Make room, remembering what comes off, slot 0's first.
     int16_t retires[2] = {-1, -1};
