@@ -237,7 +237,7 @@ public:
     void Batir_Maison(ClsJeuFief& fief, ClsJeuBatiment& chateau, ClsJeuBatiment& maison, const ClsJeuParam& param);
     bool PeutConstruire_Maison(int type, const ClsJeuParam& param) const;
     // Making line n of the house's object list; its price is paid when it is finished.
-    void Creer_Objet(int n, const ClsJeuBatiment& maison, const ClsJeuParam& param);
+    void Creer_Objet(int n);
     void Fabriquer_Objet(const ClsJeuParam& param, ClsJeuBatiment& maison, int32_t& commentaire);
     bool PeutConstruire_Objet(int n, const ClsJeuBatiment& maison, const ClsJeuParam& param) const;
 
@@ -299,6 +299,8 @@ public:
     int16_t Definir_Niveau_CompetenceObjets(int k) const { return Effectif(CompetencesObjets, k); }
     bool Bonus_CompetenceSpeciales(int k) const;
     bool Bonus_CompetenceServices(int s) const;
+    bool Bonus_CompetenceRessources(int r) const;
+    bool Bonus_CompetenceObjets(int k) const;
     // The bargained price of something worth prix: unchanged at the starting level, tending
     // to half as bargaining grows.
     int16_t Prix_Marchandee(double prix, const ClsJeuParam& param) const;
@@ -315,6 +317,14 @@ private:
     }
     // Wears the worn object of an inventory slot, making room as its category says.
     void Objet_Porter(int slot, const ClsJeuParam& param);
+    // After a change of what is worn: bonuses, then the look.
+    void Actualiser_Equipement(const ClsJeuParam& param);
+    // The energy and morale that a tick of work costs.
+    void Fatiguer();
+    // Raw material m for quantite units at parUnite each: paid if carried, else false.
+    bool Payer_Matiere(int m, double quantite, double parUnite);
+    // One meal for a gauge: the first food that feeds it, while the gauge can hold it.
+    void Recuperer(Jauge& jauge, double (ClsJeuParam::*gain)(int) const, const ClsJeuParam& param);
     using BonusObjet = int16_t (ClsJeuParam::*)(int) const;
     void Ecrire_Jauge(Jauge& j, double v, GenreExperience genre, bool ramener, BonusObjet bonus, double partObjets);
 };

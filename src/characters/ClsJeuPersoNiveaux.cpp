@@ -4,7 +4,6 @@
 #include "characters/ClsJeuPerso.h"
 #include "characters/ExperienceObjets.h"
 #include "rules/ClsJeuParam.h"
-#include "rules/Conversions.h"
 #include "world/Globales.h"
 
 namespace {
@@ -60,6 +59,17 @@ bool ClsJeuPerso::Bonus_CompetenceServices(int s) const {
     return c.Effectif > c.Valeur;
 }
 
+// A resource's own level is the levels gained, its Valeur being the load.
+bool ClsJeuPerso::Bonus_CompetenceRessources(int r) const {
+    const Competence& c = CompetencesRessources[static_cast<std::size_t>(r)];
+    return c.Effectif > c.Compte;
+}
+
+bool ClsJeuPerso::Bonus_CompetenceObjets(int k) const {
+    const Competence& c = CompetencesObjets[static_cast<std::size_t>(k)];
+    return c.Effectif > c.Valeur;
+}
+
 void ClsJeuPerso::Gestion_Niveau_Comp_Speciale(int k, double montant, const ClsJeuParam& param) {
     static constexpr double taux[] = {0.001, 0.0025, 0.005, 0.001};
     static constexpr double partObjets[] = {0.05, 1, 1, 1};
@@ -73,7 +83,7 @@ void ClsJeuPerso::Gestion_Niveau_Comp_Speciale(int k, double montant, const ClsJ
 }
 
 void ClsJeuPerso::Gestion_Niveau_Prime(double montant, const ClsJeuParam& param) {
-    const double gain = Convertir_Souple(param.Service_CoefExp(2)) * montant;
+    const double gain = param.Service_CoefExp_Reel(2) * montant;
     Competence& c = CompetencesServices[1];
     Ajouter_Experience(c.Valeur, gain, c.Exp, c.Compte, c.SeuilBas, c.SeuilHaut, GenreService);
     if (Bonus_CompetenceServices(1))

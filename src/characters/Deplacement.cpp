@@ -149,7 +149,7 @@ void Reposer_Chez_Soi(ClsJeuPerso& p, const CiblesDeplacement& c) {
 
 // At home, at its trade: the house's resource is harvested, else its service prepared; a
 // house with neither rests its owner.
-void Travailler(ClsJeuPerso& p, const CiblesDeplacement& c, const ClsJeuParam& param) {
+void Travailler(ClsJeuPerso& p, const CiblesDeplacement& c, int32_t& commentaire, const ClsJeuParam& param) {
     if (!Debout(c.Maison)) {
         p.DansSaMaison = false;
         p.Arreter();
@@ -160,15 +160,44 @@ void Travailler(ClsJeuPerso& p, const CiblesDeplacement& c, const ClsJeuParam& p
     p.RessourceRecoltee = r;
     if (r >= 0) {
         p.Definir_Action_Metier(r);
-        // The harvest of the tick (Recolter_Ressources into this house) joins here.
+        p.Recolter_Ressources(r, *c.Maison, commentaire, param);
+    } else if (c.Maison->Service != 0) {
+        p.Preparer_Service(*c.Maison, commentaire, param);
+    } else {
+        p.Arreter();
+    }
+}
+
+// A deposit is harvested into the carrier, then into its own house if it stands in it.
+void Recolter_Gisement(ClsJeuPerso& p, const CiblesDeplacement& c, int32_t& commentaire, const ClsJeuParam& param) {
+    p.RessourceRecoltee = c.Ressource ? c.Ressource->TypeRessource : -1;
+    if (c.SaMaison) p.Recolter_Ressources(p.RessourceRecoltee, *c.SaMaison, commentaire, param);
+    p.DansMaison = false;
+}
+
+void Batir(ClsJeuPerso& p, const CiblesDeplacement& c, const ClsJeuParam& param) {
+    if (!Debout(c.Maison) || c.Fief == nullptr || c.SonChateau == nullptr) {
+        p.Arreter();
         return;
     }
-    if (c.Maison->Service == 0) p.Arreter();
-    // A house with a service prepares it here (Preparer_Service).
+    p.RessourceRecoltee = -1;
+    c.Maison->EnConstruction = true;
+    p.Batir_Maison(*c.Fief, *c.SonChateau, *c.Maison, param);
+}
+
+// A finished object counts in its fief's figures.
+void Fabriquer(ClsJeuPerso& p, const CiblesDeplacement& c, int32_t& commentaire, const ClsJeuParam& param) {
+    if (!Debout(c.Maison) || c.SaMaison == nullptr) {
+        p.DansSaMaison = false;
+        p.Arreter();
+        return;
+    }
+    p.Fabriquer_Objet(param, *c.SaMaison, commentaire);
+    if (p.Definir_Action() == 100 && c.Fief) c.Fief->ObjetsFabriques += 1;
 }
 
 // What a character does on its destination, living or dead, on every tick it stands there.
-void Agir_Sur_Place(ClsJeuPerso& p, const CiblesDeplacement& c, const ClsJeuParam& param) {
+void Agir_Sur_Place(ClsJeuPerso& p, const CiblesDeplacement& c, int32_t& commentaire, const ClsJeuParam& param) {
     const bool vivant = p.Vivant();
     switch (p.Definir_Action()) {
     case 0:
@@ -176,20 +205,10 @@ void Agir_Sur_Place(ClsJeuPerso& p, const CiblesDeplacement& c, const ClsJeuPara
         if (vivant) Attendre_Dehors(p, c);
         break;
     case 2:
-        if (!vivant) break;
-        p.RessourceRecoltee = c.Ressource ? c.Ressource->TypeRessource : -1;
-        p.DansMaison = false;
-        // The harvest of the deposit (Recolter_Ressources into Maisons[Numero]) joins here.
+        if (vivant) Recolter_Gisement(p, c, commentaire, param);
         break;
     case 6:
-        if (!vivant) break;
-        if (!Debout(c.Maison)) {
-            p.Arreter();
-            break;
-        }
-        p.RessourceRecoltee = -1;
-        c.Maison->EnConstruction = true;
-        // A tick of building (Batir_Maison) joins here.
+        if (vivant) Batir(p, c, param);
         break;
     case 100:
         if (vivant)
@@ -200,7 +219,7 @@ void Agir_Sur_Place(ClsJeuPerso& p, const CiblesDeplacement& c, const ClsJeuPara
     case 101:
     case 102:
         if (vivant) {
-            Travailler(p, c, param);
+            Travailler(p, c, commentaire, param);
         } else {
             p.DansSaMaison = Debout(c.Maison);
             p.Arreter();
@@ -220,15 +239,10 @@ void Agir_Sur_Place(ClsJeuPerso& p, const CiblesDeplacement& c, const ClsJeuPara
         p.Definir_Action(0);
         break;
     case 500:
-        if (!vivant) break;
-        if (!Debout(c.Maison)) {
-            p.DansSaMaison = false;
-            p.Arreter();
-        }
-        // A tick of making the object (Fabriquer_Objet at Maisons[Numero]) joins here.
+        if (vivant) Fabriquer(p, c, commentaire, param);
         break;
     case 600:
-        if (vivant) Travailler(p, c, param);
+        if (vivant) Travailler(p, c, commentaire, param);
         break;
     default: p.RessourceRecoltee = -1; break;
     }
@@ -236,14 +250,14 @@ void Agir_Sur_Place(ClsJeuPerso& p, const CiblesDeplacement& c, const ClsJeuPara
 
 // Arrived: it stands (a flyer hovers), its destination is pinned to where it is, a walk
 // gives way to what it was for, and that is done.
-void Arriver(ClsJeuPerso& p, const CiblesDeplacement& c, const ClsJeuParam& param) {
+void Arriver(ClsJeuPerso& p, const CiblesDeplacement& c, int32_t& commentaire, const ClsJeuParam& param) {
     p.Direction = p.Volant ? 3 : 0;
     p.EnMouvement = p.Volant;
     p.DestinationX = p.PositionX;
     p.DestinationY = p.PositionY;
     const int16_t code = p.Definir_Action();
     if (code < 100 && code % 2 == 1) p.Definir_Action(static_cast<int16_t>(code - 1));
-    Agir_Sur_Place(p, c, param);
+    Agir_Sur_Place(p, c, commentaire, param);
 }
 
 // After a step, or a hovering arrival: a building site that fell is given up, a character
@@ -275,6 +289,7 @@ CiblesDeplacement Lire_Cibles(const ClsJeuPerso& p) {
     c.Ressource = Element(Ressources, p.RessourceCible);
     c.Cible = Element(Persos, p.PersoCible);
     c.Maison = Element(Maisons, p.MaisonCible);
+    c.SaMaison = Element(Maisons, p.Numero);
     c.Chateau = Element(Chateaux, p.ChateauCible);
     c.SonChateau = Element(Chateaux, p.Fief);
     c.Fief = Element(Fiefs, p.Fief);
@@ -302,7 +317,7 @@ void ClsJeuPerso::Deplacement(CiblesDeplacement& cibles, int32_t& commentaire, c
         DureeImmobilisation -= 1;
         return;   // held: it neither walks nor stirs
     } else {
-        if (!Marcher(*this)) Arriver(*this, cibles, param);
+        if (!Marcher(*this)) Arriver(*this, cibles, commentaire, param);
         if (Direction > 0) Apres_Mouvement(*this, cibles);
     }
     Animer(*this);

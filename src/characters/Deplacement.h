@@ -13,6 +13,7 @@ struct CiblesDeplacement {
     ClsJeuRessources* Ressource = nullptr;   // Ressources[RessourceCible]
     ClsJeuPerso* Cible = nullptr;            // Persos[PersoCible]
     ClsJeuBatiment* Maison = nullptr;        // Maisons[MaisonCible]
+    ClsJeuBatiment* SaMaison = nullptr;      // Maisons[Numero]: its own, where harvest overflows
     ClsJeuBatiment* Chateau = nullptr;       // Chateaux[ChateauCible]
     ClsJeuBatiment* SonChateau = nullptr;    // Chateaux[Fief]
     ClsJeuFief* Fief = nullptr;              // Fiefs[Fief]

@@ -120,6 +120,11 @@ public:
     std::string Service_Effet(int s) const { return std::to_string(Services[s].Effet); }
     double Service_Prix(int s) const;
     double Service_Coefficient(int s) const { return Services[s].Coefficient; }
+    // The figures of a service's making as numbers, for the work of every tick.
+    double Service_VitesseCreation_Reel(int s) const { return Services[s].VitesseCreation; }
+    int16_t Service_MatierePremiere_Indice(int s) const { return Services[s].TypeMatierePremiere; }
+    double Service_QuantiteMatierePremiere_Reel(int s) const { return Services[s].QuantiteMatierePremiere; }
+    double Service_CoefExp_Reel(int s) const { return Services[s].CoefExp; }
 
     // Peoples and monsters. Peuple, Parole, Volant and Grade answer the text of their value
     // (a flag as "1" or "0"); Infatigable answers the flag as a real.

@@ -51,6 +51,12 @@ protected:
             if (std::none_of(Persos.begin(), Persos.end(), [](const ClsJeuPerso& p) { return p.EnMouvement; })) return;
         }
     }
+    // Ticks of character i until it has arrived, then n more where it stands.
+    static void Arriver_Puis(int i, int n) {
+        Tour(i);
+        for (int k = 0; k < 3000 && P(i).EnMouvement; ++k) Tour(i);
+        Tours(n, i);
+    }
 
     // House of character i at (300, 500), of the first type that harvests, serves or does
     // neither; finished or a fresh site.
@@ -128,12 +134,17 @@ TEST_F(Mouvement, ChaqueOrdreFinitSurSonActionPuisLesRuinesRenvoientLeursOccupan
     P(7).Aller_Maison(chantier);
     P(8).Aller_Chateau(Chateaux[1], 1, Param.ChateauxLargeur, Param.ChateauxHauteur);
     EXPECT_EQ(P(4).Definir_Action(), 7);
-    Marcher_Tous();
-    Tours(3, 2);   // the trade name is written again on every tick at home
+    for (int r = 0; r < Param.NombreRessources; ++r) P(3).Definir_Ressources(r, 20);   // raw material to serve with
+    for (int i = 0; i < 9; ++i) {
+        Arriver_Puis(i, 3);   // the trade name is written again on every tick at home
+        if (i == 4) {
+            EXPECT_TRUE(chantier.EnConstruction);
+        }
+    }
 
     const std::tuple<int, std::string, bool ClsJeuPerso::*, int> fins[] = {
         {2, "Récolter ressources", nullptr, 3},           {100, "En repos", &ClsJeuPerso::DansSaMaison, -1},
-        {102, metier, &ClsJeuPerso::DansSaMaison, r},      {101, "Rentrer à la maison", &ClsJeuPerso::DansSaMaison, -1},
+        {102, metier, &ClsJeuPerso::DansSaMaison, r},      {600, "Préparer Service", &ClsJeuPerso::DansSaMaison, -1},
         {6, "Construire", nullptr, -1},                    {0, "En attente", &ClsJeuPerso::DansSonChateau, -1},
         {0, "En attente", &ClsJeuPerso::DansMaison, -1},   {0, "En attente", nullptr, -1},
         {0, "En attente", &ClsJeuPerso::DansChateau, -1},
@@ -151,8 +162,6 @@ TEST_F(Mouvement, ChaqueOrdreFinitSurSonActionPuisLesRuinesRenvoientLeursOccupan
     P(7).Aller_Maison(chantier);   // at the door of a site, not even the arrival takes it in
     Tour(7);
     EXPECT_FALSE(P(7).DansMaison);
-    EXPECT_FALSE(P(3).Inactif());   // a house with a service keeps its master at work
-    EXPECT_TRUE(chantier.EnConstruction);
     EXPECT_LE(std::abs(P(1).PositionX - (hutte.PositionX + hutte.Largeur / 2 - 12 + hutte.EntreePositionX)), 1);
 
     // A walker whose site falls on the way takes its step, then gives up.
