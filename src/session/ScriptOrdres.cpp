@@ -284,7 +284,7 @@ void Donner_Ordre(const OrdreScript& o) {
     case Verbe::Arreter: p.Arreter(); return;
     case Verbe::Fabriquer:
         if (Ligne_Valide(maison, a[0]) && p.PeutConstruire_Objet(a[0], maison, Param))
-            p.Creer_Objet(a[0], maison, Param);
+            p.Creer_Objet(a[0]);
         return;
     case Verbe::Ramasser:
         if (Ligne_Valide(maison, a[0])) p.Objet_Ramasser_Maison(a[0], maison, Param);
