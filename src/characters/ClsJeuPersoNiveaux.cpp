@@ -50,16 +50,6 @@ void ClsJeuPerso::Gestion_Tous_Niveaux() {
     rejouer(CompetencesObjets, GenreObjet);
 }
 
-bool ClsJeuPerso::Bonus_CompetenceSpeciales(int k) const {
-    const Competence& c = CompetencesSpeciales[static_cast<std::size_t>(k)];
-    return c.Effectif > c.Valeur;
-}
-
-bool ClsJeuPerso::Bonus_CompetenceServices(int s) const {
-    const Competence& c = CompetencesServices[static_cast<std::size_t>(s)];
-    return c.Effectif > c.Valeur;
-}
-
 void ClsJeuPerso::Gestion_Niveau_Comp_Speciale(int k, double montant, const ClsJeuParam& param) {
     static constexpr double taux[] = {0.001, 0.0025, 0.005, 0.001};
     static constexpr double partObjets[] = {0.05, 1, 1, 1};
