@@ -332,6 +332,20 @@ public:
     double Progression_Moral() const { return Moral.Progression(); }
     double Progression_Attaque() const { return Attaque.Progression(); }
     double Progression_Defense() const { return Defense.Progression(); }
+    // The overall level shown to the player, 1 for a fresh character.
+    double Niveau() const;
+    // The trade of the building type the character is best at; empty while it has
+    // learnt nothing.
+    std::string_view Metier(const ClsJeuParam& param) const;
+    // Over every effective level and every carrying capacity, for the character sheet.
+    int32_t Definir_Min_Competence() const;
+    double Definir_Moy_Competence() const;
+    int32_t Definir_Max_Competence() const;
+    // Kills by Monstre value; row 0 counts the non-monsters.
+    int32_t Nombre_de_lignes_du_bestiaire() const { return static_cast<int32_t>(Bestiaire.size()); }
+    int32_t Definir_Bestiaire(int m) const { return Bestiaire[static_cast<std::size_t>(m)]; }
+    void Definir_Bestiaire(int m, int32_t tues) { Bestiaire[static_cast<std::size_t>(m)] = tues; }
+    int32_t Definir_Bestiaire_Total() const;
     // The bargained price of something worth prix: unchanged at the starting level, tending
     // to half as bargaining grows.
     int16_t Prix_Marchandee(double prix, const ClsJeuParam& param) const;
