@@ -297,10 +297,55 @@ public:
     int16_t Definir_Niveau_CompetenceRessources(int r) const { return Effectif(CompetencesRessources, r); }
     int16_t Definir_Niveau_CompetenceServices(int s) const { return Effectif(CompetencesServices, s); }
     int16_t Definir_Niveau_CompetenceObjets(int k) const { return Effectif(CompetencesObjets, k); }
-    bool Bonus_CompetenceSpeciales(int k) const;
-    bool Bonus_CompetenceServices(int s) const;
-    bool Bonus_CompetenceRessources(int r) const;
-    bool Bonus_CompetenceObjets(int k) const;
+    // Effective level above the level without objects.
+    bool Bonus_CompetenceSpeciales(int k) const { return Entree(CompetencesSpeciales, k).Bonus(false); }
+    bool Bonus_CompetenceRessources(int r) const { return Entree(CompetencesRessources, r).Bonus(true); }
+    bool Bonus_CompetenceServices(int s) const { return Entree(CompetencesServices, s).Bonus(false); }
+    bool Bonus_CompetenceObjets(int k) const { return Entree(CompetencesObjets, k).Bonus(false); }
+    int32_t Nombre_CompetencesSpeciales() const { return static_cast<int32_t>(CompetencesSpeciales.size()); }
+    int32_t Nombre_CompetencesRessources() const { return static_cast<int32_t>(CompetencesRessources.size()); }
+    int32_t Nombre_CompetencesServices() const { return static_cast<int32_t>(CompetencesServices.size()); }
+    int32_t Nombre_CompetencesObjets() const { return static_cast<int32_t>(CompetencesObjets.size()); }
+    // Experience reads 0 below index 0. A write sets the counter alone: a record loaded
+    // with its experience gets its levels back from Gestion_Tous_Niveaux.
+    double Definir_ExpSpeciales(int k) const { return Exp_Lue(CompetencesSpeciales, k); }
+    double Definir_ExpRessources(int r) const { return Exp_Lue(CompetencesRessources, r); }
+    double Definir_ExpServices(int s) const { return Exp_Lue(CompetencesServices, s); }
+    double Definir_ExpObjets(int k) const { return Exp_Lue(CompetencesObjets, k); }
+    void Definir_ExpSpeciales(int k, double exp) { Entree(CompetencesSpeciales, k).Exp = exp; }
+    void Definir_ExpRessources(int r, double exp) { Entree(CompetencesRessources, r).Exp = exp; }
+    void Definir_ExpServices(int s, double exp) { Entree(CompetencesServices, s).Exp = exp; }
+    void Definir_ExpObjets(int k, double exp) { Entree(CompetencesObjets, k).Exp = exp; }
+    // Levels gained.
+    int16_t Niveau_CompetenceSpeciales(int k) const { return Gagnes(CompetencesSpeciales, k); }
+    int16_t Niveau_CompetenceRessources(int r) const { return Gagnes(CompetencesRessources, r); }
+    int16_t Niveau_CompetenceServices(int s) const { return Gagnes(CompetencesServices, s); }
+    int16_t Niveau_CompetenceObjets(int k) const { return Gagnes(CompetencesObjets, k); }
+    // How far through its level a counter is, from 0 to 1, for the interface's bars.
+    double Progression_CompetenceSpeciale(int k) const { return Entree(CompetencesSpeciales, k).Progression(); }
+    double Progression_CompetenceRessource(int r) const { return Entree(CompetencesRessources, r).Progression(); }
+    double Progression_CompetenceService(int s) const { return Entree(CompetencesServices, s).Progression(); }
+    double Progression_CompetenceObjet(int k) const { return Entree(CompetencesObjets, k).Progression(); }
+    double Progression_Vie() const { return Vie.Progression(); }
+    double Progression_energie() const { return Energie.Progression(); }
+    double Progression_Magie() const { return Magie.Progression(); }
+    double Progression_Moral() const { return Moral.Progression(); }
+    double Progression_Attaque() const { return Attaque.Progression(); }
+    double Progression_Defense() const { return Defense.Progression(); }
+    // The overall level shown to the player, 1 for a fresh character.
+    double Niveau() const;
+    // The trade of the building type the character is best at; empty while it has
+    // learnt nothing.
+    std::string_view Metier(const ClsJeuParam& param) const;
+    // Over every effective level and every carrying capacity, for the character sheet.
+    int32_t Definir_Min_Competence() const;
+    double Definir_Moy_Competence() const;
+    int32_t Definir_Max_Competence() const;
+    // Kills by Monstre value; row 0 counts the non-monsters.
+    int32_t Nombre_de_lignes_du_bestiaire() const { return static_cast<int32_t>(Bestiaire.size()); }
+    int32_t Definir_Bestiaire(int m) const { return Bestiaire[static_cast<std::size_t>(m)]; }
+    void Definir_Bestiaire(int m, int32_t tues) { Bestiaire[static_cast<std::size_t>(m)] = tues; }
+    int32_t Definir_Bestiaire_Total() const;
     // The bargained price of something worth prix: unchanged at the starting level, tending
     // to half as bargaining grows.
     int16_t Prix_Marchandee(double prix, const ClsJeuParam& param) const;
@@ -314,6 +359,14 @@ private:
     double Montre(const Jauge& j) const { return std::min(static_cast<double>(j.Max), j.Valeur + j.Reserve); }
     static int16_t Effectif(const std::vector<Competence>& table, int i) {
         return static_cast<int16_t>(table[static_cast<std::size_t>(i)].Effectif);
+    }
+    static const Competence& Entree(const std::vector<Competence>& table, int i) {
+        return table[static_cast<std::size_t>(i)];
+    }
+    static Competence& Entree(std::vector<Competence>& table, int i) { return table[static_cast<std::size_t>(i)]; }
+    static double Exp_Lue(const std::vector<Competence>& table, int i) { return i < 0 ? 0 : Entree(table, i).Exp; }
+    static int16_t Gagnes(const std::vector<Competence>& table, int i) {
+        return static_cast<int16_t>(Entree(table, i).Compte);
     }
     // Wears the worn object of an inventory slot, making room as its category says.
     void Objet_Porter(int slot, const ClsJeuParam& param);

@@ -8,8 +8,8 @@
 
 namespace {
 
-void Copier_Base(std::vector<Competence>& table, bool parNiveaux) {
-    for (Competence& c : table) c.Effectif = parNiveaux ? c.Compte : c.Valeur;
+void Copier_Base(std::vector<Competence>& table, bool ressource) {
+    for (Competence& c : table) c.Effectif = c.Base(ressource);
 }
 
 // Keeps the fill of a gauge when its maximum changes.

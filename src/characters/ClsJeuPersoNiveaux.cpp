@@ -49,27 +49,6 @@ void ClsJeuPerso::Gestion_Tous_Niveaux() {
     rejouer(CompetencesObjets, GenreObjet);
 }
 
-bool ClsJeuPerso::Bonus_CompetenceSpeciales(int k) const {
-    const Competence& c = CompetencesSpeciales[static_cast<std::size_t>(k)];
-    return c.Effectif > c.Valeur;
-}
-
-bool ClsJeuPerso::Bonus_CompetenceServices(int s) const {
-    const Competence& c = CompetencesServices[static_cast<std::size_t>(s)];
-    return c.Effectif > c.Valeur;
-}
-
-// A resource's own level is the levels gained, its Valeur being the load.
-bool ClsJeuPerso::Bonus_CompetenceRessources(int r) const {
-    const Competence& c = CompetencesRessources[static_cast<std::size_t>(r)];
-    return c.Effectif > c.Compte;
-}
-
-bool ClsJeuPerso::Bonus_CompetenceObjets(int k) const {
-    const Competence& c = CompetencesObjets[static_cast<std::size_t>(k)];
-    return c.Effectif > c.Valeur;
-}
-
 void ClsJeuPerso::Gestion_Niveau_Comp_Speciale(int k, double montant, const ClsJeuParam& param) {
     static constexpr double taux[] = {0.001, 0.0025, 0.005, 0.001};
     static constexpr double partObjets[] = {0.05, 1, 1, 1};

@@ -16,8 +16,6 @@ void Gagner(ClsJeuPerso& p, Competence& c, double gain, GenreExperience genre) {
     p.Ajouter_Experience(c.Valeur, gain, c.Exp, c.Compte, c.SeuilBas, c.SeuilHaut, genre);
 }
 
-Competence& Entree(std::vector<Competence>& table, int i) { return table[static_cast<std::size_t>(i)]; }
-
 }  // namespace
 
 void ClsJeuPerso::Fatiguer() {

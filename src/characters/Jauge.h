@@ -17,6 +17,8 @@ struct Jauge {
     double SeuilBas = 0, SeuilHaut = 0;
 
     int32_t Bonus() const { return Max - MaxBase; }
+    // How far through its level the gauge is, from 0 to 1.
+    double Progression() const { return (Exp - SeuilBas) / (SeuilHaut - SeuilBas); }
 
     void Empreindre(Empreinte& e) const {
         e.Ajouter(Valeur);
@@ -40,6 +42,10 @@ struct Competence {
     double SeuilBas = 0, SeuilHaut = 0;
 
     double Progression() const { return (Exp - SeuilBas) / (SeuilHaut - SeuilBas); }
+    // The level without objects. A resource's Valeur is a load, so its level is the
+    // levels gained.
+    int32_t Base(bool ressource) const { return ressource ? Compte : Valeur; }
+    bool Bonus(bool ressource) const { return Effectif > Base(ressource); }
 
     void Empreindre(Empreinte& e) const {
         e.Ajouter(Valeur);
