@@ -8,6 +8,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/Surface.h"
+
 class PeripheriqueFenetre {
 public:
     virtual ~PeripheriqueFenetre() = default;
@@ -24,6 +26,11 @@ public:
     virtual bool Affiche() const = 0;
     virtual void Presenter_Image() = 0;
     virtual void Pomper_Evenements() = 0;
+    // Opens the display at the start of a game; false when the game cannot be shown at all.
+    virtual bool Init() { return true; }
+    virtual void Fermer_Ecran() {}
+    // The back buffer that a render draws on; none without a display.
+    virtual Surface* Tampon() { return nullptr; }
 };
 
 class PeripheriqueSouris {
@@ -33,6 +40,10 @@ public:
     // Moves the pointer by the motion since the last call; z is the wheel delta.
     virtual void Positions(int32_t& x, int32_t& y, int32_t& z) = 0;
     virtual bool Clique(int bouton) = 0;
+    // Takes the mouse for the game, at its start.
+    virtual void Init() {}
+    // The pointer to the middle of the game image.
+    virtual void Centrer_curseur(int32_t& /*x*/, int32_t& /*y*/) {}
 };
 
 class PeripheriqueClavier {
@@ -40,6 +51,7 @@ public:
     virtual ~PeripheriqueClavier() = default;
     // The key pressed on this pass as a scan code (0 for none) and the held modifiers.
     virtual int16_t Pression_Clavier(bool& ctrl, bool& maj, bool& alt) = 0;
+    virtual void Init() {}
 };
 
 // Headless stand-ins: a window that keeps its captions, a screen that shows nothing,

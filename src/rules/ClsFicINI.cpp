@@ -250,7 +250,10 @@ fs::path ClsFicINI::Chemin() const { return Chemin_Jeu(Fichier + Extension); }
 
 fs::path ClsFicINI::Chemin_Temporaire() const {
     const fs::path chemin = Chemin();
-    return chemin.parent_path() / ("." + chemin.filename().string() + ".tmp");
+    std::string nom = ".";
+    nom += chemin.filename().string();
+    nom += ".tmp";
+    return chemin.parent_path() / nom;
 }
 
 std::string ClsFicINI::Parametre(std::string_view cle) {

@@ -13,8 +13,12 @@ namespace {
 
 template <class T>
 std::string Bornes_Type() {
-    return "[" + std::to_string(std::numeric_limits<T>::min()) + ", " +
-           std::to_string(std::numeric_limits<T>::max()) + "]";
+    std::string bornes = "[";
+    bornes += std::to_string(std::numeric_limits<T>::min());
+    bornes += ", ";
+    bornes += std::to_string(std::numeric_limits<T>::max());
+    bornes += "]";
+    return bornes;
 }
 
 std::string Cite(std::string_view valeur) { return "« " + std::string(valeur) + " »"; }

@@ -17,8 +17,9 @@ bool Periode_Ecoulee(float ecart, int16_t rythme) {
 }
 
 void FrmMoteur2D::MoteurJeu(const ChoixPartie& choix) {
-    if (!Ouvrir(choix)) return;
-    while (!FinPartie) Passe();
+    if (Ouvrir(choix))
+        while (!FinPartie) Passe();
+    P.Ecran.Fermer_Ecran();
 }
 
 // A script that is not found turns the character's AI off.
@@ -31,7 +32,12 @@ static void Attacher_Scripts_IA() {
 }
 
 bool FrmMoteur2D::Ouvrir(const ChoixPartie& choix) {
+    // Without a screen there is no game; its messages have been shown.
+    if (!P.Ecran.Init()) return false;
     P.Fenetre.Pomper_Evenements();
+    P.Souris.Init();
+    P.Souris.Centrer_curseur(SourisX, SourisY);
+    P.Clavier.Init();
     if (!Preparer_Partie(choix)) return false;
     Attacher_Scripts_IA();
     DernierTemps = TempsCourant = Horloge();

@@ -44,7 +44,7 @@ void Lire_Taille_Fenetres(Atelier& a) {
 }  // namespace
 
 std::vector<Resolution> Resolutions_Par_Defaut() {
-    return {{800, 600}, {1024, 768}, {1280, 800}, {1600, 900}, {1920, 1080}};
+    return {{800, 600}, {1024, 768}, {1280, 720}, {1600, 900}, {1920, 1080}};
 }
 
 void Atelier::Ecrire(std::string_view relatif, const Toile& toile) {
