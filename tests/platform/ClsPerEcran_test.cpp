@@ -12,18 +12,6 @@
 
 namespace {
 
-class MessagesVus {
-public:
-    MessagesVus() {
-        Definir_Afficheur_Message([this](std::string_view, std::string_view texte, GenreMessage, BoutonsMessage) {
-            textes.emplace_back(texte);
-            return ReponseMessage::OK;
-        });
-    }
-    ~MessagesVus() { Definir_Afficheur_Message(nullptr); }
-    std::vector<std::string> textes;
-};
-
 constexpr const char* ErreurInit = "Une erreur a eu lieu durant l'initalisation de DirectDraw";
 constexpr const char* EchecFenetre = "Echec de la création de la surface DirectDraw";
 

@@ -14,19 +14,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// Installs an afficheur that records every message text for the life of the object.
-class MessagesVus {
-public:
-    MessagesVus() {
-        Definir_Afficheur_Message([this](std::string_view, std::string_view texte, GenreMessage, BoutonsMessage) {
-            textes.emplace_back(texte);
-            return ReponseMessage::OK;
-        });
-    }
-    ~MessagesVus() { Definir_Afficheur_Message(nullptr); }
-    std::vector<std::string> textes;
-};
-
 void Ecrire_Programme(const DossierTemporaire& jeu, const std::string& nom, const std::string& contenu) {
     jeu.Ecrire("bin/" + nom, contenu);
     fs::permissions(jeu.Chemin() / "bin" / nom, fs::perms::owner_all);

@@ -4,6 +4,9 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <vector>
+
+#include "rules/BoiteMessage.h"
 
 // A fresh folder under the system's temporary directory, removed when the object goes.
 // While it lives, it is the game folder (Dossier_Jeu).
@@ -21,4 +24,19 @@ public:
 
 private:
     std::filesystem::path chemin_;
+};
+
+// Records the text of every message box shown while the object lives, instead of showing it.
+class MessagesVus {
+public:
+    MessagesVus() {
+        Definir_Afficheur_Message([this](std::string_view, std::string_view texte, GenreMessage, BoutonsMessage) {
+            textes.emplace_back(texte);
+            return ReponseMessage::OK;
+        });
+    }
+    ~MessagesVus() { Definir_Afficheur_Message(nullptr); }
+    MessagesVus(const MessagesVus&) = delete;
+    MessagesVus& operator=(const MessagesVus&) = delete;
+    std::vector<std::string> textes;
 };
