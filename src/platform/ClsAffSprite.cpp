@@ -83,6 +83,14 @@ void ClsAffSprite::Afficher(int32_t x, int32_t y, Surface& cible, bool transpare
     SDL_BlitSurface(Image.SDL(), &source, cible.SDL(), &destination);
 }
 
+void ClsAffSprite::Afficher_Rapide(int32_t x, int32_t y, const Rectangle& source, Surface& cible, bool transparent) {
+    if (!Image.Valide() || !cible.Valide() || source.Right <= source.Left || source.Bottom <= source.Top) return;
+    Utiliser_Cle(transparent);
+    SDL_Rect zone{source.Left, source.Top, source.Right - source.Left, source.Bottom - source.Top};
+    SDL_Rect destination{x, y, 0, 0};
+    SDL_BlitSurface(Image.SDL(), &zone, cible.SDL(), &destination);
+}
+
 // No cut of the selection: each pixel is tested, black ones are skipped, and only those that
 // land on the screen (and on the target) are mixed.
 void ClsAffSprite::Melanger(int32_t x, int32_t y, Surface& cible) {

@@ -27,6 +27,9 @@ public:
     // Otherwise the selection is first cut to the screen, and the cut stays in the
     // selection: a caller sets it again before the next draw.
     void Afficher(int32_t x, int32_t y, Surface& cible, bool transparent, bool semiTransparent);
+    // One fast blit of the part `source` of the picture at (x, y), for callers that cut it
+    // themselves (the ground): no cut to the screen, the selection is neither read nor changed.
+    void Afficher_Rapide(int32_t x, int32_t y, const Rectangle& source, Surface& cible, bool transparent);
 
     // The part of the picture to draw. Note the order: top, bottom, left, right.
     void Selection(int32_t haut, int32_t bas, int32_t gauche, int32_t droite) { selection_ = {gauche, haut, droite, bas}; }

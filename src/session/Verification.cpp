@@ -1,10 +1,16 @@
 #include "session/Verification.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <filesystem>
 #include <set>
 
+#include "affichage/ClsAffBatiment.h"
+#include "affichage/ClsAffBouton.h"
+#include "affichage/ClsAffObjets.h"
+#include "affichage/ClsAffPerso.h"
+#include "affichage/ClsAffRessources.h"
+#include "affichage/ClsAffSouris.h"
+#include "affichage/ClsAffTerrain.h"
 #include "rules/Chemins.h"
 #include "rules/ClsFicINI.h"
 #include "rules/ClsJeuParam.h"
@@ -161,44 +167,61 @@ int Apparences_Humaines() {
     return std::max(n, 1);
 }
 
-constexpr int CellulePersoL = 3 * 24, CellulePersoH = 4 * 32;
+// The sizes come from the sprite families, so that what is checked is what they read.
+constexpr int CellulePersoL = 3 * ClsAffPerso::Largeur(), CellulePersoH = 4 * ClsAffPerso::Hauteur();
+
+// The file of the picture a family loads by the name nom.
+std::string Image(const std::string& nom) { return ClsAffSprite::CheminImage() + nom + ClsAffSprite::Extension_Image(); }
+
+// A button sheet of `colonnes` buttons in `lignes` states, in the cells of its family.
+ImageAttendue Boutons(const std::string& lieu, int famille, int colonnes, int lignes) {
+    const ClsAffBouton::Famille& f = ClsAffBouton::Familles[famille];
+    return {lieu, Image(std::string("Boutons/") + f.fichier), colonnes * f.largeur, lignes * f.hauteur};
+}
 
 void Images_Des_Regles(std::vector<ImageAttendue>& l) {
     const std::string B = "Ini_Parametres_Batiments", M = "Ini_Parametres_Monstres", O = "Ini_Parametres_Objets";
     const std::string E = "Ini_Parametres_Effets", R = "Ini_Parametres_Ressources";
     for (int p = 0; p < Param.NombrePeuples; ++p) {
-        char nom[48];
-        std::snprintf(nom, sizeof nom, "Images/Batiments/Chateaux-%04d.bmp", p + 1);
         const int lignes = p == 0 ? Param.NombreEpoques : 1;
-        l.push_back({Lieu(M, Section_Numerotee("Peuple_", p + 1), "Nom"), nom, Param.ChateauxLargeur, lignes * Param.ChateauxHauteur});
+        l.push_back({Lieu(M, Section_Numerotee("Peuple_", p + 1), "Nom"), Image(ClsAffBatiment::Chemin_Chateau(p)), Param.ChateauxLargeur,
+                     lignes * Param.ChateauxHauteur});
     }
     for (int b = 0; b < Param.NombreTypeBatiments; ++b)
-        l.push_back({Lieu(B, Section_Numerotee("Batiment_", b + 1), "Nom"), "Images/Batiments/" + Param.Batiment_Nom(b) + ".bmp",
+        l.push_back({Lieu(B, Section_Numerotee("Batiment_", b + 1), "Nom"), Image(ClsAffBatiment::Chemin_Maison(b, Param)),
                      Param.Batiment_NombreEtapeAnimation(b) * Param.Batiment_Largeur(b),
                      (Param.Batiment_NombreEtapeFabrication(b) + 1) * Param.Batiment_Hauteur(b)});
-    l.push_back({Lieu(R, "Terrain_Ressources", "NombreTerrainRessource"), "Images/Decors/Ressources.bmp", 32 * Param.NombreTerrainRessource, 32});
+    l.push_back({Lieu(R, "Terrain_Ressources", "NombreTerrainRessource"), "Images/Decors/Ressources.bmp",
+                 ClsAffRessources::Largeur() * Param.NombreTerrainRessource, ClsAffRessources::Hauteur()});
     for (int e = 0; e < Param.NombreEffets; ++e)
         l.push_back({Lieu(E, Section_Numerotee("Effet_", e + 1), "Fichier"), "Images/Effets/" + Param.Effet_Fichier(e) + ".bmp",
                      Param.Effet_NombreEtapes(e) * Param.Effet_Largeur(e), Param.Effet_Hauteur(e)});
     for (int o = 0; o < Param.NombreObjets; ++o)
-        l.push_back({Lieu(O, Section_Numerotee("Objet_", o + 1), "Nom"), "Images/Objets/" + Param.Objet_Nom(o) + ".bmp", 32, 32});
+        l.push_back({Lieu(O, Section_Numerotee("Objet_", o + 1), "Nom"), "Images/Objets/" + Param.Objet_Nom(o) + ".bmp",
+                     ClsAffObjets::Largeur(), ClsAffObjets::Hauteur()});
     if (Param.NombrePeuples > 0)
         l.push_back({Lieu(M, "Peuple_1", "Nom"), "Images/Persos/" + Param.Peuples_Nom(0) + ".bmp", 2 * Apparences_Humaines() * CellulePersoL, CellulePersoH});
     for (int m = 0; m < Param.NombreTotalMonstres; ++m)
         l.push_back({Lieu(M, Section_Numerotee("Monstre_", m + 1), "Nom"), "Images/Persos/Monstres/" + Param.Monstre_Nom(m) + ".bmp",
                      (Param.Monstre_Apparence(m) + 1) * CellulePersoL, CellulePersoH});
-    l.push_back({Lieu(B, "Batiments", "NombreTypeBatiments"), "Images/Boutons/Construire.bmp", 28 * (Param.NombreTypeBatiments + 1), 3 * 28});
+    l.push_back(Boutons(Lieu(B, "Batiments", "NombreTypeBatiments"), 0, Param.NombreTypeBatiments + 1, 3));
 }
 
 // The pictures of the program itself: fixed layouts, and those sized by the screen files.
 void Images_Du_Programme(std::vector<ImageAttendue>& l) {
     auto fixe = [&l](const std::string& chemin, int largeur, int hauteur) { l.push_back({Lieu_Image(chemin), chemin, largeur, hauteur}); };
-    fixe("Images/terrains/Plaine.bmp", 17 * 16, 16);
-    fixe("Images/Curseurs/ArrowCursor.bmp", 12 * 32, 32);
-    fixe("Images/Boutons/Action.bmp", 7 * 24, 2 * 24);
-    fixe("Images/Boutons/Commerce.bmp", 9 * 24, 2 * 24);
-    fixe("Images/Boutons/Transfert.bmp", 6 * 24, 24);
-    fixe("Images/Boutons/Defilement.bmp", 2 * 64, 16);
+    auto boutons = [&l](int famille, int colonnes, int lignes) {
+        ImageAttendue i = Boutons("", famille, colonnes, lignes);
+        i.lieu = Lieu_Image(i.chemin);
+        l.push_back(i);
+    };
+    const ClsAffTerrain terrain;   // the 17 tile values of a map cell, 0 to 16
+    fixe("Images/terrains/Plaine.bmp", 17 * terrain.LargeurCase, terrain.HauteurCase);
+    fixe("Images/Curseurs/ArrowCursor.bmp", ClsAffSouris::NombreModes * ClsAffSouris::Largeur(), ClsAffSouris::Hauteur());
+    boutons(2, 7, 2);   // Action
+    boutons(4, 9, 2);   // Commerce
+    boutons(5, 6, 1);   // Transfert
+    boutons(6, 2, 1);   // Defilement
     fixe("Images/Fenetres/Victoire-Defaite.bmp", 320, 400);
     fixe("Images/Fenetres/Fenetres.bmp", 1, 1);
     ClsFicINI ecran;
@@ -221,26 +244,28 @@ void Images_Du_Programme(std::vector<ImageAttendue>& l) {
         interface = true;
         auto cle = [&](const char* nom) { return Souple_En<int32_t>(disposition.Parametre(nom)); };
         const int infos = cle("NombreBoutonsInfos"), deplacement = cle("NombreBoutonsDeplacement");
-        l.push_back({Lieu(disposition.Fichier, "Interface", "NombreBoutonsInfos"), "Images/Boutons/Infos.bmp", 28 * std::max(infos, 1), 2 * 16});
-        l.push_back({Lieu(disposition.Fichier, "Interface", "NombreBoutonsDeplacement"), "Images/Boutons/Deplacement.bmp",
-                     28 * std::max(deplacement, 1), (deplacement > 17 ? 5 : 2) * 28});
+        l.push_back(Boutons(Lieu(disposition.Fichier, "Interface", "NombreBoutonsInfos"), 1, std::max(infos, 1), 2));
+        l.push_back(Boutons(Lieu(disposition.Fichier, "Interface", "NombreBoutonsDeplacement"), 3, std::max(deplacement, 1),
+                            deplacement > 17 ? 5 : 2));
         l.push_back({Lieu(disposition.Fichier, "Interface", "LargeurFenetres"), "Images/Fenetres/Fenetres.bmp", 3 * cle("LargeurFenetres"),
                      cle("HauteurFenetres")});
         if (cle("AfficherCadre") != 0)
             l.push_back({Lieu(disposition.Fichier, "Interface", "AfficherCadre"), "Images/Fenetres/Cadre.bmp", largeur, hauteur});
     }
     if (!interface) {
-        fixe("Images/Boutons/Infos.bmp", 6 * 28, 2 * 16);
-        fixe("Images/Boutons/Deplacement.bmp", 18 * 28, 5 * 28);
+        boutons(1, 6, 2);    // Infos
+        boutons(3, 18, 5);   // Deplacement
     }
 }
 
-// Every file of the hero folders is read as a look of one block.
+// Every file of the hero folders is a look of one block. What the game loads for it is the
+// file's name cut at its first '.', with the picture extension: "Archer.old.png" asks for
+// "Archer.bmp", and that is the picture checked, reported at the file that asks for it.
 void Images_Des_Heros(std::vector<ImageAttendue>& l) {
-    for (const char* dossier : {"Images/Persos/HerosF", "Images/Persos/HerosM"})
-        for (const std::string& nom : Lister_Dossier(Chemin_Jeu(dossier))) {
-            const std::string chemin = std::string(dossier) + "/" + nom;
-            l.push_back({Lieu_Image(chemin), chemin, CellulePersoL, CellulePersoH});
+    for (const bool feminin : {true, false})
+        for (const std::string& nom : Lister_Dossier(ClsAffPerso::Dossier_Heros(feminin))) {
+            const std::string fichier = ClsAffSprite::CheminImage() + ClsAffPerso::CheminHeros(feminin) + nom;
+            l.push_back({Lieu_Image(fichier), Image(ClsAffPerso::Nom_Heros(feminin, nom)), CellulePersoL, CellulePersoH});
         }
 }
 
