@@ -75,7 +75,11 @@ void ClsIntMonde::Charger(int32_t largeurEcran) {
     ini.Fichier = "Ini_Interface" + std::to_string(largeurEcran);
     ini.Section = "Interface";
     fichierInterface_.clear();
-    if (!std::filesystem::exists(ini.Chemin())) return;
+    if (!std::filesystem::exists(ini.Chemin())) {
+        // Without a layout, the frame rate sits in the top right corner, clear of the pointer.
+        FPSPositionX = static_cast<int16_t>(std::max(0, largeurEcran - 80));
+        return;
+    }
     fichierInterface_ = ini.Fichier;
     AfficherFPS = Souple_Booleen(ini.Parametre("AfficherFPS"));
     FPSCouleur = Souple_En<int32_t>(ini.Parametre("FPSCouleur"));

@@ -29,7 +29,8 @@ public:
     int32_t CouleurRectangleFond = 0xBEE4F0;
     int16_t BordureRectangleFond = 3;
 
-    // Reads "Ini_Boutons" and, if present, the layout of a screen of this width.
+    // Reads "Ini_Boutons" and, if present, the layout of a screen of this width; without a
+    // layout the frame rate goes to the top right corner.
     void Charger(int32_t largeurEcran);
 
     // Bubbles for the things of the world under the pointer; a write is kept in the layout

@@ -2,7 +2,9 @@
 
 #include <cmath>
 
+#include "affichage/Affichages.h"
 #include "ai/ModIA2.h"
+#include "platform/ClsPerEcran.h"
 #include "characters/Deplacement.h"
 #include "rules/ClsJeuParam.h"
 #include "rules/Hasard.h"
@@ -31,6 +33,18 @@ static void Attacher_Scripts_IA() {
     }
 }
 
+// A hero with a picture of its own finds it among the hero files; then every character takes
+// its look. The files are only listed, so this runs as well without a screen.
+static void Calculer_Apparences() {
+    for (ClsJeuPerso& p : Persos) {
+        if (!p.ApparenceFichier) continue;
+        int32_t indice = 0;
+        AffPerso.Charger_Hero(p.FichierApparence, p.Feminin, indice);
+        p.ApparenceBase = static_cast<int16_t>(indice);
+    }
+    for (std::size_t i = 0; i < Persos.size(); ++i) Persos[i].Calculer_Apparence(Maisons[i], Param);
+}
+
 bool FrmMoteur2D::Ouvrir(const ChoixPartie& choix) {
     // Without a screen there is no game; its messages have been shown.
     if (!P.Ecran.Init()) return false;
@@ -40,8 +54,11 @@ bool FrmMoteur2D::Ouvrir(const ChoixPartie& choix) {
     P.Clavier.Init();
     if (!Preparer_Partie(choix)) return false;
     Attacher_Scripts_IA();
+    Calculer_Apparences();
+    Charger_Images();
     DernierTemps = TempsCourant = Horloge();
     DebutSeconde = TempsCourant;
+    Centrer_Camera();
     FinPartie = Victoire = Defaite = false;
     return true;
 }
@@ -50,6 +67,7 @@ void FrmMoteur2D::Passe() {
     TempsCourant = Horloge();
     Ecart = TempsCourant - DernierTemps;
     Lire_Peripheriques();
+    if (CliqueGauche || CliqueDroit || Touche != 0) Cliquer();
     if (Periode_Ecoulee(Ecart, Jeu.Definir_Vitesse()) && !Jeu.Pause) Tour();
     if (Periode_Ecoulee(Ecart, Jeu.Definir_FPS())) Rendu();
     if (!Victoire && !Defaite) Verifier_Fin();
@@ -69,6 +87,7 @@ void FrmMoteur2D::Lire_Peripheriques() {
 // Appliquer_Objets_Utilises, in that order.
 void FrmMoteur2D::Tour() {
     Gerer_Fiefs();
+    Centrer_Camera();
     Deplacer_Persos();
     ++NombreTours;
 }
@@ -89,10 +108,39 @@ void Deplacer_Persos() {
     }
 }
 
+// The pictures of play, only when there is a screen to show them on.
+void FrmMoteur2D::Charger_Images() {
+    if (!P.Ecran.Tampon()) return;
+    Interface.Charger(EcranLargeur);
+    AffPerso.Charger(Param);
+    AffTerrain.Charger("Plaine");
+    AffChateaux.Charger(ClsAffBatiment::Chateaux, Param);
+    AffMaisons.Charger(ClsAffBatiment::Maisons, Param);
+    AffRessources.Charger();
+    AffSouris.Charger();
+    AffEffet.Charger(Param);
+    ImageFin.Charger("Fenetres/Victoire-Defaite");
+}
+
 void FrmMoteur2D::Rendu() {
     ++NombreImages;
-    Expirer_Commentaires(TempsCourant);
+    Tampon = P.Ecran.Tampon();
+    SpritesDessines = 0;
+    Afficher_Terrain();
+    Afficher_Ressources();
+    Afficher_Batiments();
+    Afficher_Cadre_Actif();
+    Afficher_Progression();
+    Afficher_Persos();
+    Afficher_Effets();
+    Afficher_Commentaires();
+    // The message log and the interface, when they come, are drawn here, under the pointer.
+    Afficher_Souris();
+    Afficher_Info_Terrain(SourisX, SourisY);
     Mesurer_FPS();
+    if (Tampon) Interface.Afficher_FPS(FPSMesure, *Tampon);
+    Afficher_Fin();
+    Tampon = nullptr;
     P.Ecran.Presenter_Image();
     P.Ecran.Pomper_Evenements();
     DernierTemps = TempsCourant;
@@ -121,6 +169,10 @@ void FrmMoteur2D::Verifier_Fin() {
             break;
         }
     }
-    if (Victoire) return;
+    if (Victoire) {
+        ImageFin.Selection(0, 199, 0, 319);
+        return;
+    }
     Defaite = !debout(static_cast<std::size_t>(heros.Fief));
+    if (Defaite) ImageFin.Selection(200, 399, 0, 319);
 }

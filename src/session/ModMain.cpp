@@ -5,6 +5,7 @@
 #include <string>
 #include <system_error>
 
+#include "affichage/Affichages.h"
 #include "rules/BoiteMessage.h"
 #include "rules/Chemins.h"
 #include "rules/ClsJeuParam.h"
@@ -67,6 +68,7 @@ void Demarrer_Programme(PeripheriqueFenetre& fenetre) {
     Legende(fenetre, " - chargement messages");
     Commentaires.Charger();
     Legende(fenetre, " - chargement affichage");
+    Creer_Affichages();
     Legende(fenetre, " - chargement périphériques");
     Legende(fenetre, " - chargement interface");
     Param = ClsJeuParam{};
@@ -82,5 +84,6 @@ void Demarrer_Programme(PeripheriqueFenetre& fenetre) {
 
 void Reinitialiser_Globales() {
     Reinitialiser_Monde();
+    Reinitialiser_Affichages();
     Param = ClsJeuParam{};
 }

@@ -2,6 +2,7 @@
 
 #include <ostream>
 
+#include "platform/ClsPerEcran.h"
 #include "platform/Peripheriques.h"
 #include "rules/ClsJeuParam.h"
 #include "rules/Conversions.h"
@@ -30,6 +31,15 @@ void Simulateur::Passe(ScriptOrdres* script) {
     if (script != nullptr) script->Appliquer(moteur_.NombreTours);
     Avancer_Horloge(1.5f / static_cast<float>(Jeu.Definir_Vitesse()));
     moteur_.Passe();
+}
+
+bool Simulateur::Capturer(const std::filesystem::path& fichier) {
+    const ClsPerEcran reglages;
+    if (!ecran_.Affiche() && !ecran_.Allumer(reglages.Width(), reglages.Height())) return false;
+    moteur_.Charger_Images();
+    moteur_.Centrer_Camera();
+    moteur_.Rendu();
+    return ecran_.Enregistrer_BMP(fichier);
 }
 
 std::optional<int64_t> Simuler(const ChoixPartie& choix, int64_t ticks, ScriptOrdres* script) {

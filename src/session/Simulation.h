@@ -3,9 +3,11 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
 #include <iosfwd>
 #include <optional>
 
+#include "platform/EcranHorsEcran.h"
 #include "platform/Peripheriques.h"
 #include "session/ChoixPartie.h"
 #include "session/FrmMoteur2D.h"
@@ -28,9 +30,17 @@ public:
     // Ticks done since Ouvrir.
     int64_t Ticks() const { return moteur_.NombreTours; }
 
+    // One image of the world as the game would show it at the screen size of "Ini_Ecran",
+    // to a BMP file: the screen comes on, the pictures load, the camera finds the hero and one
+    // render runs (moving on what a render moves on). False if the file cannot be written.
+    bool Capturer(const std::filesystem::path& fichier);
+
+    FrmMoteur2D& Moteur() { return moteur_; }
+    EcranHorsEcran& Ecran() { return ecran_; }
+
 private:
     FenetreMuette fenetre_;
-    EcranNul ecran_;
+    EcranHorsEcran ecran_;   // dark, as the null screen, until a capture
     SourisMuette souris_;
     ClavierMuet clavier_;
     FrmMoteur2D moteur_;
