@@ -27,8 +27,10 @@ constexpr const char* Usage =
     "usage : korvalis-sim [--dossier DIR] [--graine N] [--ticks T] [--monde nouveau|bataille]\n"
     "        [--fiefs N] [--villageois N] [--equipes E1,E2,…] [--peuples P1,P2,…] [--soldats N1,N2]\n"
     "        [--epoque E] [--largeur W] [--hauteur H] [--gisements N] [--etat]\n"
-    "        [--carte FICHIER.pgm|FICHIER.ppm] [--ordres FICHIER]\n"
+    "        [--carte FICHIER.pgm|FICHIER.ppm] [--ordres FICHIER] [--capture FICHIER.bmp]\n"
     "--carte écrit l'image du monde à la fin, un pixel par case (PPM en couleur, PGM en gris).\n"
+    "--capture écrit à la fin l'image que le jeu montrerait, autour du héros, à la taille\n"
+    "  d'écran de Ini_Ecran (il faut les images du dossier du jeu).\n"
     "--ordres donne des ordres aux personnages, une ligne « TOUR PERSO ORDRE [ARGUMENTS] » :\n"
     "  batir TYPE DX DY, recolter R, rentrer, chateau, aller X Y, arreter, fabriquer LIGNE,\n"
     "  ramasser LIGNE, acheter MAISON LIGNE, vendre EMPL, equiper EMPL, ranger EMPL,\n"
@@ -37,7 +39,7 @@ constexpr const char* Usage =
     "à partir de 0. Sans option, les valeurs viennent de Ini_Partie du dossier du jeu.\n";
 
 struct Options {
-    std::optional<std::string> dossier, monde, carte, ordres;
+    std::optional<std::string> dossier, monde, carte, ordres, capture;
     std::optional<uint64_t> graine;
     int64_t ticks = 0;
     std::optional<int32_t> fiefs, villageois, epoque, largeur, hauteur, gisements;
@@ -88,6 +90,7 @@ Options Lire_Options(int argc, char** argv) {
         else if (cle == "--gisements") o.gisements = entier();
         else if (cle == "--carte") o.carte = v;
         else if (cle == "--ordres") o.ordres = v;
+        else if (cle == "--capture") o.capture = v;
         else Refuser("option inconnue " + cle);
     }
     if (o.monde && *o.monde != "nouveau" && *o.monde != "bataille") Refuser("--monde vaut nouveau ou bataille");
@@ -174,6 +177,14 @@ int main(int argc, char** argv) {
             return 1;
         }
         std::cout << "carte=" << *o.carte << '\n';
+    }
+    // Last, as its render moves on the effects and animations that the figures above count.
+    if (o.capture) {
+        if (!simulateur.Capturer(*o.capture)) {
+            std::cerr << "korvalis-sim : impossible d'écrire la capture " << *o.capture << '\n';
+            return 1;
+        }
+        std::cout << "capture=" << *o.capture << '\n';
     }
     return 0;
 }
