@@ -2,7 +2,8 @@
 // or the program name is there with the size its sprite family reads, nothing visible is
 // (or nearly is) the transparent black, every cell of every sheet holds a drawing, the looks
 // differ, the ground tiles join, and a second run writes the same bytes. Then the verifier's
-// check of the pictures: silent on this folder, precise on a damaged copy.
+// check of the pictures: silent on this folder, precise on a damaged copy. Last, the sprite
+// families load the forged sheets and find a drawing for every state of the rules.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -17,6 +18,10 @@
 #include "Bmp.h"
 #include "Forge.h"
 #include "Support.h"
+#include "affichage/Affichages.h"
+#include "affichage/ClsAffBouton.h"
+#include "affichage/ClsAffObjets.h"
+#include "platform/ClsPerEcran.h"
 #include "rules/Chemins.h"
 #include "rules/ClsJeuParam.h"
 #include "rules/TailleBmp.h"
@@ -272,6 +277,77 @@ TEST_F(Forge, LEnTeteDUneImageDonneSaTaille) {
     EXPECT_EQ(envers->hauteur, 7);
 }
 
+// The families read the forged sheets: each loads without a missing picture, and every state
+// the default rules can ask of it names a cell inside its sheet that shows a drawing.
+TEST_F(Forge, LesFamillesTrouventUnDessinPourChaqueEtatDesRegles) {
+    Definir_Dossier_Jeu(dossier_->Chemin());
+    EcranLargeur = 200;
+    EcranHauteur = 200;
+    Creer_Affichages();
+    AffPerso.Charger(Param);
+    AffTerrain.Charger("Plaine");
+    AffChateaux.Charger(ClsAffBatiment::Chateaux, Param);
+    AffMaisons.Charger(ClsAffBatiment::Maisons, Param);
+    AffRessources.Charger();
+    AffSouris.Charger();
+    AffEffet.Charger(Param);
+    ClsAffObjets objets;
+    objets.Charger(Param);
+    ClsAffBouton boutons[ClsAffBouton::NombreFamilles];
+    for (int f = 0; f < ClsAffBouton::NombreFamilles; ++f) boutons[f].Charger(f);
+    EXPECT_EQ(AffPerso.NombreHeros, static_cast<int>(Lister_Dossier(Images() / "Persos/HerosF").size() + Lister_Dossier(Images() / "Persos/HerosM").size()));
+
+    constexpr int32_t Temoin = 0x123457;
+    Surface ecran(200, 200);
+    const auto verifier = [&](const std::string& quoi, const ClsAffSprite& s, const Rectangle& r, const auto& dessin) {
+        EXPECT_TRUE(r.Left >= 0 && r.Top >= 0 && r.Right <= s.Image.Largeur() && r.Bottom <= s.Image.Hauteur()) << quoi << " hors de la planche";
+        ecran.Remplir(Temoin);
+        dessin();
+        int vus = 0;
+        for (int y = 0; y < std::min(r.Bottom - r.Top, 200); ++y)
+            for (int x = 0; x < std::min(r.Right - r.Left, 200); ++x) vus += ecran.Lire_Pixel(x, y) != Temoin;
+        EXPECT_GT(vus, 0) << quoi << " ne montre rien";
+    };
+    const auto perso = [&](int apparence, int monstre, bool feminin, bool propre) {
+        const auto choix = ClsAffPerso::Choisir(apparence, monstre, feminin, propre, AffPerso.NombreHeros);
+        for (int d = 0; d <= 4; ++d)
+            for (int pas = 0; pas <= 3; ++pas)
+                verifier("perso " + std::to_string(choix.sprite) + " bloc " + std::to_string(choix.bloc) + " direction " + std::to_string(d) + " pas " + std::to_string(pas),
+                         AffPerso.Sprites[static_cast<std::size_t>(choix.sprite)], ClsAffPerso::Cellule(pas, d, choix.bloc),
+                         [&] { AffPerso.Afficher(0, 0, pas, d, apparence, monstre, feminin, ecran, propre, false); });
+    };
+    for (int h = 0; h < AffPerso.NombreHeros; ++h) perso(h, 0, false, true);
+    for (int look = 0; look < Apparences_Nommees(); ++look)
+        for (const bool feminin : {false, true}) perso(look, 0, feminin, false);
+    for (int m = 0; m < Param.NombreTotalMonstres; ++m) perso(Param.Monstre_Apparence(m), m + 1, false, false);
+
+    for (int t = 0; t < 17; ++t)
+        verifier("tuile " + std::to_string(t), AffTerrain.Sprite, Cellule_En_Ligne(t, 16, 16), [&] { AffTerrain.Afficher(0, 0, t, ecran); });
+    for (int p = 0; p < Param.NombrePeuples; ++p)
+        for (int e = 0; e < (p == 0 ? Param.NombreEpoques : 1); ++e)
+            verifier("château " + std::to_string(p) + " époque " + std::to_string(e), AffChateaux.Sprites[static_cast<std::size_t>(p)],
+                     ClsAffBatiment::Cellule(e, Param.ChateauxLargeur, Param.ChateauxHauteur, 0),
+                     [&] { AffChateaux.Afficher(0, 0, p, e, ecran, Param.ChateauxLargeur, Param.ChateauxHauteur, 0); });
+    for (int b = 0; b < Param.NombreTypeBatiments; ++b)
+        for (int etat = 0; etat <= Param.Batiment_NombreEtapeFabrication(b); ++etat)
+            for (int a = 0; a < Param.Batiment_NombreEtapeAnimation(b); ++a) {
+                const int w = Param.Batiment_Largeur(b), h = Param.Batiment_Hauteur(b);
+                verifier(Param.Batiment_Nom(b) + " état " + std::to_string(etat) + " animation " + std::to_string(a), AffMaisons.Sprites[static_cast<std::size_t>(b)],
+                         ClsAffBatiment::Cellule(etat, w, h, a), [&] { AffMaisons.Afficher(0, 0, b, etat, ecran, w, h, a); });
+            }
+    for (int d = 0; d < Param.NombreTerrainRessource; ++d)
+        verifier("gisement " + std::to_string(d), AffRessources.Sprite, ClsAffRessources::Cellule(d), [&] { AffRessources.Afficher(0, 0, d, ecran); });
+    for (int m = 0; m < ClsAffSouris::NombreModes; ++m)
+        verifier("pointeur " + std::to_string(m), AffSouris.Sprite, ClsAffSouris::Cellule(m), [&] { AffSouris.Afficher(0, 0, m, ecran); });
+    for (int e = 0; e < Param.NombreEffets; ++e)
+        for (int k = 0; k < Param.Effet_NombreEtapes(e); ++k)
+            verifier("effet " + Param.Effet_Fichier(e) + " étape " + std::to_string(k), AffEffet.Effets[static_cast<std::size_t>(e)].sprite,
+                     ClsAffEffet::Cellule(k, AffEffet.Largeur(e), AffEffet.Hauteur(e)), [&] { AffEffet.Afficher(e, k, 0, 0, ecran); });
+    for (int o = 0; o < Param.NombreObjets; ++o)
+        verifier("objet " + Param.Objet_Nom(o), objets.Sprites[static_cast<std::size_t>(o)], Cellule_En_Ligne(0, 32, 32), [&] { objets.Afficher(0, 0, o, ecran, false); });
+    Reinitialiser_Affichages();
+}
+
 // A game folder of the rule files and the forged pictures, for the verifier.
 void Copier_Dossier_Jeu(const fs::path& images, const fs::path& vers) {
     for (const auto& e : fs::directory_iterator(KORVALIS_DATA))
@@ -298,6 +374,8 @@ TEST_F(Forge, LeVerificateurNommeLaRegleDUneImageAbsenteOuTropPetite) {
     ASSERT_TRUE(Ecrire_Bmp(jeu.Chemin() / "Images" / ("Objets/" + Param.Objet_Nom(0) + ".bmp"), Toile(16, 16)));
     ASSERT_TRUE(Ecrire_Bmp(jeu.Chemin() / "Images/terrains/Plaine.bmp", Toile(16, 16)));
     jeu.Ecrire("Images/Persos/HerosF/Note.bmp", "pas une image");
+    // The game loads a hero file by its name cut at the first '.': here Images/Persos/HerosM/Ancien.bmp.
+    ASSERT_TRUE(Ecrire_Bmp(jeu.Chemin() / "Images/Persos/HerosM/Ancien.v2.bmp", Toile(72, 128)));
     Problemes problemes;
     Verifier_Images(problemes);
     const std::vector<std::string> attendus = {
@@ -305,6 +383,7 @@ TEST_F(Forge, LeVerificateurNommeLaRegleDUneImageAbsenteOuTropPetite) {
         "Ini_Parametres_Objets.ini:Objet_1:Nom: Images/Objets/" + Param.Objet_Nom(0) + ".bmp fait 16 × 16, il faut au moins 32 × 32",
         "Images:terrains:Plaine.bmp: Images/terrains/Plaine.bmp fait 16 × 16, il faut au moins 272 × 16",
         "Images:Persos/HerosF:Note.bmp: Images/Persos/HerosF/Note.bmp n'est pas une image BMP lisible",
+        "Images:Persos/HerosM:Ancien.v2.bmp: Images/Persos/HerosM/Ancien.bmp manque",
     };
     for (const std::string& a : attendus) EXPECT_NE(std::find(problemes.begin(), problemes.end(), a), problemes.end()) << a;
     EXPECT_EQ(problemes.size(), attendus.size());
