@@ -247,7 +247,7 @@ void FrmMoteur2D::Afficher_Souris() {
         else if (m == PointChateauPropre) curseur = 6;
         else if (m == PointMaisonAmieService1) curseur = 7;
     }
-    AffSouris.Mode = curseur >= 12 ? 0 : curseur;
+    AffSouris.Mode = ClsAffSouris::Mode_Affiche(curseur);
     if (Tampon) AffSouris.Afficher(SourisX, SourisY, curseur, *Tampon);
 }
 

@@ -4,8 +4,8 @@
 
 #include "affichage/Affichages.h"
 #include "ai/ModIA2.h"
-#include "platform/ClsPerEcran.h"
 #include "characters/Deplacement.h"
+#include "platform/ClsPerEcran.h"
 #include "rules/ClsJeuParam.h"
 #include "rules/Hasard.h"
 #include "rules/Horloge.h"
