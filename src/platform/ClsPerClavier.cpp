@@ -23,11 +23,17 @@ int16_t ClsPerClavier::Pression_Clavier(bool& ctrl, bool& maj, bool& alt) {
     return Interpreter(ctrl, maj, alt);
 }
 
+// A key is down if it still is, or if it went down since the last reading.
 void ClsPerClavier::Lire_Etat() {
     int nombre = 0;
     const Uint8* touches = SDL_GetKeyboardState(&nombre);
-    for (const PaireTouche& p : Table_Touches())
-        Etat[p.code] = p.scancode < nombre && touches[p.scancode] ? 0x80 : 0;
+    auto& appuis = Evenements().ToucheAppuyee;
+    for (const PaireTouche& p : Table_Touches()) {
+        const auto s = static_cast<std::size_t>(p.scancode);
+        const bool appui = s < appuis.size() && appuis[s];
+        Etat[p.code] = (p.scancode < nombre && touches[p.scancode]) || appui ? 0x80 : 0;
+    }
+    appuis.fill(false);
 }
 
 int16_t ClsPerClavier::Interpreter(bool& ctrl, bool& maj, bool& alt) {

@@ -193,6 +193,13 @@ void ClsPerEcran::Pomper_Evenements() {
                 en_attente.DeplacementY += e.motion.yrel;
             }
             break;
+        case SDL_MOUSEBUTTONDOWN:
+            if (SDL_GetRelativeMouseMode()) en_attente.BoutonsAppuyes |= SDL_BUTTON(e.button.button);
+            break;
+        case SDL_KEYDOWN:
+            if (e.key.keysym.scancode >= 0 && static_cast<std::size_t>(e.key.keysym.scancode) < en_attente.ToucheAppuyee.size())
+                en_attente.ToucheAppuyee[static_cast<std::size_t>(e.key.keysym.scancode)] = true;
+            break;
         case SDL_MOUSEWHEEL:
             en_attente.Molette += e.wheel.direction == SDL_MOUSEWHEEL_FLIPPED ? -e.wheel.y : e.wheel.y;
             break;

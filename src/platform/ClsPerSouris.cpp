@@ -39,7 +39,7 @@ bool ClsPerSouris::Lire_Peripherique() {
     Etat.lX = std::exchange(evenements.DeplacementX, 0);
     Etat.lY = std::exchange(evenements.DeplacementY, 0);
     Etat.lZ = std::exchange(evenements.Molette, 0);
-    const Uint32 boutons = SDL_GetMouseState(nullptr, nullptr);
+    const Uint32 boutons = SDL_GetMouseState(nullptr, nullptr) | std::exchange(evenements.BoutonsAppuyes, 0);
     constexpr Uint32 masques[4] = {SDL_BUTTON_LMASK, SDL_BUTTON_RMASK, SDL_BUTTON_MMASK, SDL_BUTTON_X1MASK};
     for (std::size_t b = 0; b < Etat.Boutons.size(); ++b) Etat.Boutons[b] = (boutons & masques[b]) ? 0x80 : 0;
     return true;

@@ -145,4 +145,16 @@ TEST(Clavier, FermerLaFenetreVautAltF4) {
     EXPECT_EQ(clavier.Pression_Clavier(ctrl, maj, alt), 0);
 }
 
+// A key pressed and let go again between two readings (a quick tap while the events of a
+// render pile up) still counts, once.
+TEST(Clavier, UneFrappeBreveEntreDeuxLecturesCompte) {
+    ClsPerClavier clavier;
+    bool ctrl = false, maj = false, alt = false;
+    EXPECT_EQ(clavier.Pression_Clavier(ctrl, maj, alt), 0);
+    Evenements().ToucheAppuyee[4] = true;   // SDL's scancode of A, already released
+    EXPECT_EQ(clavier.Pression_Clavier(ctrl, maj, alt), 30);
+    EXPECT_EQ(clavier.Pression_Clavier(ctrl, maj, alt), 0);
+    EXPECT_EQ(clavier.Pression_Clavier(ctrl, maj, alt), 0);
+}
+
 }  // namespace
