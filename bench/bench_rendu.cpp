@@ -7,7 +7,7 @@
 #include <cstddef>
 
 #include "MondeBench.h"
-#include "affichage/Affichages.h"
+#include "presentation/Affichages.h"
 #include "platform/ClsPerEcran.h"
 #include "platform/EcranHorsEcran.h"
 #include "session/FrmMoteur2D.h"

@@ -10,7 +10,7 @@
 
 #include "ai/TestPoint.h"
 #include "platform/ClsPerEcran.h"
-#include "affichage/Affichages.h"
+#include "presentation/Affichages.h"
 #include "rules/ClsJeuParam.h"
 #include "rules/Conversions.h"
 #include "session/FrmMoteur2D.h"

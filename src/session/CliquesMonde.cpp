@@ -1,7 +1,7 @@
 // Clicks on the world. A click acts on the pointer's mode as the last render drew it, not
 // on what lies under the pointer now, so the player gets what the cursor promised.
 #include "ai/TestPoint.h"
-#include "affichage/Affichages.h"
+#include "presentation/Affichages.h"
 #include "rules/ClsJeuParam.h"
 #include "rules/Conversions.h"
 #include "session/FrmMoteur2D.h"

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "affichage/Affichages.h"
+#include "presentation/Affichages.h"
 #include "ai/ModIA2.h"
 #include "characters/Deplacement.h"
 #include "platform/ClsPerEcran.h"

@@ -5,7 +5,7 @@
 #include <string>
 #include <system_error>
 
-#include "affichage/Affichages.h"
+#include "presentation/Affichages.h"
 #include "rules/BoiteMessage.h"
 #include "rules/Chemins.h"
 #include "rules/ClsJeuParam.h"

@@ -4,13 +4,13 @@
 #include <filesystem>
 #include <set>
 
-#include "affichage/ClsAffBatiment.h"
-#include "affichage/ClsAffBouton.h"
-#include "affichage/ClsAffObjets.h"
-#include "affichage/ClsAffPerso.h"
-#include "affichage/ClsAffRessources.h"
-#include "affichage/ClsAffSouris.h"
-#include "affichage/ClsAffTerrain.h"
+#include "presentation/ClsAffBatiment.h"
+#include "presentation/ClsAffBouton.h"
+#include "presentation/ClsAffObjets.h"
+#include "presentation/ClsAffPerso.h"
+#include "presentation/ClsAffRessources.h"
+#include "presentation/ClsAffSouris.h"
+#include "presentation/ClsAffTerrain.h"
 #include "rules/Chemins.h"
 #include "rules/ClsFicINI.h"
 #include "rules/ClsJeuParam.h"

@@ -11,7 +11,7 @@
 #include "ai/TestPoint.h"
 #include "platform/ClsPerEcran.h"
 #include "platform/EcranHorsEcran.h"
-#include "affichage/Affichages.h"
+#include "presentation/Affichages.h"
 #include "rules/ClsJeuParam.h"
 #include "rules/Hasard.h"
 #include "rules/Horloge.h"

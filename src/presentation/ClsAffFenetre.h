@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "affichage/Cellule.h"
+#include "presentation/Cellule.h"
 
 class ClsAffFenetre {
 public:

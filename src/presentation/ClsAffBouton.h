@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <string>
 
-#include "affichage/Cellule.h"
+#include "presentation/Cellule.h"
 
 class ClsAffBouton {
 public:

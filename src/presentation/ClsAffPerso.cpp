@@ -1,8 +1,8 @@
-#include "affichage/ClsAffPerso.h"
+#include "presentation/ClsAffPerso.h"
 
 #include <algorithm>
 
-#include "affichage/Cellule.h"
+#include "presentation/Cellule.h"
 #include "rules/Chemins.h"
 #include "rules/ClsJeuParam.h"
 

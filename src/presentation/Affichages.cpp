@@ -1,4 +1,4 @@
-#include "affichage/Affichages.h"
+#include "presentation/Affichages.h"
 
 ClsAffPerso AffPerso;
 ClsAffTerrain AffTerrain;

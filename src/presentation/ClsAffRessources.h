@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-#include "affichage/Cellule.h"
+#include "presentation/Cellule.h"
 
 class ClsAffRessources {
 public:

@@ -1,9 +1,9 @@
-#include "affichage/ClsAffTerrain.h"
+#include "presentation/ClsAffTerrain.h"
 
 #include <cmath>
 #include <string>
 
-#include "affichage/Cellule.h"
+#include "presentation/Cellule.h"
 #include "world/Globales.h"
 
 void ClsAffTerrain::Charger(std::string_view nom) {

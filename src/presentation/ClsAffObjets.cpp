@@ -1,4 +1,4 @@
-#include "affichage/ClsAffObjets.h"
+#include "presentation/ClsAffObjets.h"
 
 #include <algorithm>
 

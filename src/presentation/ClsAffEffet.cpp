@@ -1,8 +1,8 @@
-#include "affichage/ClsAffEffet.h"
+#include "presentation/ClsAffEffet.h"
 
 #include <algorithm>
 
-#include "affichage/Cellule.h"
+#include "presentation/Cellule.h"
 #include "rules/ClsJeuParam.h"
 
 void ClsAffEffet::Charger(const ClsJeuParam& param) {

@@ -5,7 +5,7 @@
 
 #include "Planches.h"
 #include "Support.h"
-#include "affichage/ClsAffTerrain.h"
+#include "presentation/ClsAffTerrain.h"
 #include "platform/ClsPerEcran.h"
 #include "world/Globales.h"
 

@@ -2,12 +2,12 @@
 // session creates them (Creer_Affichages) before a game loads its pictures.
 #pragma once
 
-#include "affichage/ClsAffBatiment.h"
-#include "affichage/ClsAffEffet.h"
-#include "affichage/ClsAffPerso.h"
-#include "affichage/ClsAffRessources.h"
-#include "affichage/ClsAffSouris.h"
-#include "affichage/ClsAffTerrain.h"
+#include "presentation/ClsAffBatiment.h"
+#include "presentation/ClsAffEffet.h"
+#include "presentation/ClsAffPerso.h"
+#include "presentation/ClsAffRessources.h"
+#include "presentation/ClsAffSouris.h"
+#include "presentation/ClsAffTerrain.h"
 
 extern ClsAffPerso AffPerso;
 extern ClsAffTerrain AffTerrain;

@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-#include "affichage/Cellule.h"
+#include "presentation/Cellule.h"
 
 class ClsAffSouris {
 public:

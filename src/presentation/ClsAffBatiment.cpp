@@ -1,9 +1,9 @@
-#include "affichage/ClsAffBatiment.h"
+#include "presentation/ClsAffBatiment.h"
 
 #include <algorithm>
 #include <cstdio>
 
-#include "affichage/Cellule.h"
+#include "presentation/Cellule.h"
 #include "rules/ClsJeuParam.h"
 
 std::string ClsAffBatiment::Chemin_Chateau(int i) {
