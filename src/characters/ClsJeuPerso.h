@@ -238,7 +238,8 @@ public:
     bool PeutConstruire_Maison(int type, const ClsJeuParam& param) const;
     // Making line n of the house's object list; its price is paid when it is finished.
     void Creer_Objet(int n);
-    void Fabriquer_Objet(const ClsJeuParam& param, ClsJeuBatiment& maison, int32_t& commentaire);
+    // True on the tick the object is finished.
+    bool Fabriquer_Objet(const ClsJeuParam& param, ClsJeuBatiment& maison, int32_t& commentaire);
     bool PeutConstruire_Objet(int n, const ClsJeuBatiment& maison, const ClsJeuParam& param) const;
 
     // Eating fills the reserves, which flow into the gauges through Recuperation; a gain

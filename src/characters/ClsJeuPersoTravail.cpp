@@ -36,7 +36,7 @@ void ClsJeuPerso::Recolter_Ressources(int r, ClsJeuBatiment& maison, int32_t& co
         if (!Inactif()) Fatiguer();
         return;
     }
-    const double f = (Definir_Niveau_CompetenceRessources(r) + param.PersosMaxRessources) * (CoefForme / 400);
+    const double f = (Definir_Niveau_CompetenceRessources(r) + param.PersosMaxRessources) * (1.0 / 400 * CoefForme);
     const double sortie = param.Ressources_VitesseExtraction(r) * f;
     const bool surSoi = Definir_Ressources(r) < Definir_MaxRessources(r);
     if (!surSoi && !(maison.Stock < maison.MaxStock && DansSaMaison)) {
@@ -60,7 +60,7 @@ void ClsJeuPerso::Recolter_Ressources(int r, ClsJeuBatiment& maison, int32_t& co
 void ClsJeuPerso::Preparer_Service(ClsJeuBatiment& maison, int32_t& commentaire, const ClsJeuParam& param) {
     const int s = maison.Service;
     ServiceEnCours = s;
-    const double f = CoefForme / 400 * Definir_Niveau_CompetenceServices(s - 1);
+    const double f = 1.0 / 400 * CoefForme * Definir_Niveau_CompetenceServices(s - 1);
     const double sortie = param.Service_VitesseCreation_Reel(s) * f;
     if (maison.Stock < maison.MaxStock) {
         if (Payer_Matiere(param.Service_MatierePremiere_Indice(s), sortie, param.Service_QuantiteMatierePremiere_Reel(s))) {
@@ -113,13 +113,12 @@ void ClsJeuPerso::Creer_Objet(int n) {
     Definir_Action(500);
 }
 
-void ClsJeuPerso::Fabriquer_Objet(const ClsJeuParam& param, ClsJeuBatiment& maison, int32_t& commentaire) {
-    if (ObjetFabrique < 0 || ObjetFabrique >= param.Batiment_NombreObjetsFabriques(maison.Type) ||
-        ObjetFabrique > maison.Definir_Nombre_Stock_Objet()) {
-        Arreter();   // the house no longer makes this line
-        return;
+bool ClsJeuPerso::Fabriquer_Objet(const ClsJeuParam& param, ClsJeuBatiment& maison, int32_t& commentaire) {
+    const int16_t o = maison.Objet_De_Ligne(ObjetFabrique, param);
+    if (o < 0) {
+        Arreter();   // the house does not make this line
+        return false;
     }
-    const int16_t o = param.Batiment_ObjetFabrique(maison.Type, ObjetFabrique);
     const int c = param.Objet_Competence(o);
     const double g = CoefForme * 0.1 * Definir_Niveau_CompetenceObjets(c);
     ProgressionFabrication += g;
@@ -130,19 +129,19 @@ void ClsJeuPerso::Fabriquer_Objet(const ClsJeuParam& param, ClsJeuBatiment& mais
         Partager_Experience_Objets(*this, gain, param, [&param, c](int16_t x) { return param.Objet_BonusCompetencesObjets(x, c); });
     if (param.Objet_DureeFabrication(o) > ProgressionFabrication) {
         Definir_Action(500);
-        return;
+        return false;
     }
     maison.Stock_Objets(ObjetFabrique, maison.Stock_Objets(ObjetFabrique) + 1);
     commentaire = 0;
     Definir_Action(100);
     for (int r = 0; r < param.NombreRessources; ++r)
         Definir_Ressources(r, Definir_Ressources(r) - param.Objet_PrixRessources(o, r));
+    return true;
 }
 
 bool ClsJeuPerso::PeutConstruire_Objet(int n, const ClsJeuBatiment& maison, const ClsJeuParam& param) const {
-    if (n < 0 || n >= param.Batiment_NombreObjetsFabriques(maison.Type)) return false;
-    if (maison.MaxStock - 1 < maison.Stock) return false;
-    const int16_t o = param.Batiment_ObjetFabrique(maison.Type, n);
+    const int16_t o = maison.Objet_De_Ligne(n, param);
+    if (o < 0 || maison.MaxStock - 1 < maison.Stock) return false;
     for (int r = 0; r < param.NombreRessources; ++r)
         if (Definir_Ressources(r) < param.Objet_PrixRessources(o, r)) return false;
     return true;

@@ -192,8 +192,7 @@ void Fabriquer(ClsJeuPerso& p, const CiblesDeplacement& c, int32_t& commentaire,
         p.Arreter();
         return;
     }
-    p.Fabriquer_Objet(param, *c.SaMaison, commentaire);
-    if (p.Definir_Action() == 100 && c.Fief) c.Fief->ObjetsFabriques += 1;
+    if (p.Fabriquer_Objet(param, *c.SaMaison, commentaire) && c.Fief) c.Fief->ObjetsFabriques += 1;
 }
 
 // What a character does on its destination, living or dead, on every tick it stands there.

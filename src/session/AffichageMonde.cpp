@@ -139,8 +139,8 @@ void FrmMoteur2D::Afficher_Progression_Maison() {
                                         Blanc, false);
     };
     if (r < 0 && h.Definir_Action() == 500) {
-        const int16_t objet = Param.Batiment_ObjetFabrique(m.Type, h.ObjetFabrique);
-        dessus(h.ProgressionFabrication, Param.Objet_DureeFabrication(objet));
+        const int16_t objet = m.Objet_De_Ligne(h.ObjetFabrique, Param);
+        if (objet >= 0) dessus(h.ProgressionFabrication, Param.Objet_DureeFabrication(objet));
     }
     if (r >= 0 && h.Definir_Action() == 100) {
         dessus(h.Definir_Ressources(r), h.Definir_MaxRessources(r));

@@ -103,8 +103,10 @@ void Deplacer_Persos() {
         ClsJeuPerso& p = Persos[i];
         p.Recuperation(Fiefs[static_cast<std::size_t>(p.Fief)]);
         if (commentaire < 0) continue;
-        if (static_cast<int32_t>(i) == PersoActif || Rnd() > 0.99)
-            p.Definir_Commentaires(Commentaires.Message(commentaire));
+        // The draw is made for the hero too, so the random stream does not depend on who
+        // is the active character.
+        const bool tirage = Rnd() > 0.99;
+        if (static_cast<int32_t>(i) == PersoActif || tirage) p.Definir_Commentaires(Commentaires.Message(commentaire));
     }
 }
 

@@ -33,6 +33,7 @@ struct Forme {
 };
 
 constexpr Genre L = Genre::Libre;
+constexpr int64_t MetresMax = 1'000'000;
 
 constexpr std::array<Forme, 14> Formes{{
     {Verbe::Batir, "batir", "bâtir", 3, {Genre::TypeBatiment, L, L}, "TYPE DX DY"},
@@ -143,11 +144,6 @@ int32_t Gisement_Proche(const ClsJeuPerso& p, int32_t r) {
     return meilleur;
 }
 
-// A line of objects the house really has: a workshop's list, or none.
-bool Ligne_Valide(const ClsJeuBatiment& maison, int32_t n) {
-    return n >= 0 && n < static_cast<int32_t>(maison.StockObjets.size()) && maison.Fabrique;
-}
-
 }  // namespace
 
 std::optional<ScriptOrdres> ScriptOrdres::Lire(const std::filesystem::path& chemin, std::string& erreur) {
@@ -216,8 +212,11 @@ std::optional<ScriptOrdres> ScriptOrdres::Lire_Texte(std::string_view texte, std
             const auto v = Convertir_Strict_Entier(mot);
             if (!v) return faute(Guillemets(mot) + " n'est pas un nombre entier");
             const Genre g = forme->Genres[static_cast<std::size_t>(a)];
-            const int64_t bas = g == Genre::Libre ? std::numeric_limits<int32_t>::min() : 0;
-            if (*v < bas || *v > std::numeric_limits<int32_t>::max())
+            // A position or an offset stays far inside 32 bits, so that adding it to a
+            // position cannot overflow.
+            const int64_t bas = g == Genre::Libre ? -MetresMax : 0;
+            const int64_t haut = g == Genre::Libre ? MetresMax : std::numeric_limits<int32_t>::max();
+            if (*v < bas || *v > haut)
                 return faute(std::string(Nom_Genre(g)) + " " + std::to_string(*v) + " hors limites");
             o.Arguments[static_cast<std::size_t>(a)] = static_cast<int32_t>(*v);
         }
@@ -283,15 +282,15 @@ void Donner_Ordre(const OrdreScript& o) {
     case Verbe::Aller: p.Aller_A(a[0], a[1]); return;
     case Verbe::Arreter: p.Arreter(); return;
     case Verbe::Fabriquer:
-        if (Ligne_Valide(maison, a[0]) && p.PeutConstruire_Objet(a[0], maison, Param))
+        if (p.PeutConstruire_Objet(a[0], maison, Param))
             p.Creer_Objet(a[0]);
         return;
     case Verbe::Ramasser:
-        if (Ligne_Valide(maison, a[0])) p.Objet_Ramasser_Maison(a[0], maison, Param);
+        p.Objet_Ramasser_Maison(a[0], maison, Param);
         return;
     case Verbe::Acheter: {
         ClsJeuBatiment* vendeuse = Element(Maisons, a[0]);
-        if (vendeuse != nullptr && vendeuse->Visible() && Ligne_Valide(*vendeuse, a[1]))
+        if (vendeuse != nullptr && vendeuse->Visible())
             p.Objet_Acheter_Maison(a[1], *vendeuse, Param);
         return;
     }

@@ -113,6 +113,12 @@ void ClsJeuBatiment::Stock_Objets(int n, double valeur) {
     ligne = valeur;
 }
 
+// A line must be in the rules' list of the type and in the house's stock alike.
+int16_t ClsJeuBatiment::Objet_De_Ligne(int n, const ClsJeuParam& param) const {
+    const int lignes = std::min<int>(param.Batiment_NombreObjetsFabriques(Type), static_cast<int>(StockObjets.size()));
+    return n >= 0 && n < lignes ? param.Batiment_ObjetFabrique(Type, n) : int16_t{-1};
+}
+
 void ClsJeuBatiment::Definir_Nombre_Stock_Objet(int32_t nombre) {
     StockObjets.assign(static_cast<std::size_t>(std::max(nombre, 0)), 0.0);
 }

@@ -64,6 +64,9 @@ public:
     double Stock_Objets(int n) const { return StockObjets[static_cast<std::size_t>(n)]; }
     void Stock_Objets(int n, double valeur);
 
+    // The object of line n of the house's list; -1 when the house has no such line.
+    int16_t Objet_De_Ligne(int n, const ClsJeuParam& param) const;
+
     // Read: the last index of StockObjets. Write: the number of lines, all at 0.
     int32_t Definir_Nombre_Stock_Objet() const { return static_cast<int32_t>(StockObjets.size()) - 1; }
     void Definir_Nombre_Stock_Objet(int32_t nombre);

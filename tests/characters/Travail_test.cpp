@@ -180,6 +180,10 @@ TEST_F(Travail, UnObjetSePaieAuDernierTourEtEntreDansLeStock) {
               std::tuple(attendus, 0, 100, 1.0, 1.0));
     for (int r = 0; r < Param.NombreRessources; ++r) EXPECT_EQ(p.Definir_Ressources(r), 0) << r;
     EXPECT_FALSE(p.PeutConstruire_Objet(0, m, Param));
+
+    p.Creer_Objet(Param.Batiment_NombreObjetsFabriques(m.Type));   // a line the house does not make
+    EXPECT_FALSE(p.Fabriquer_Objet(Param, m, commentaire));
+    EXPECT_EQ(std::tuple(p.Definir_Action(), m.Stock), std::tuple(0, 1.0));
 }
 
 // Food goes into the reserves, scaled by the eater's maxima; a meal eats only the first food

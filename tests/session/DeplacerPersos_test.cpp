@@ -82,12 +82,13 @@ TEST_F(DeplacerLesPersos, LeHerosParleToujoursLesAutresUneFoisSurCent) {
     Definir_Graine(5);
     Deplacer_Persos();
 
-    // The same draws again: a draw for each character but the hero, then one for the
-    // phrase of each speaker.
+    // The same draws again: a draw for each character, the hero's included, then one for
+    // the phrase of each speaker.
     Definir_Graine(5);
     int bavards = 0;
     for (int i = 0; i < n - 1; ++i) {
-        const bool parle = i == PersoActif || static_cast<double>(Rnd()) > 0.99;
+        const bool tirage = static_cast<double>(Rnd()) > 0.99;
+        const bool parle = i == PersoActif || tirage;
         if (parle) Rnd();
         EXPECT_EQ(P(i).Definir_Commentaires(), parle ? "Il se cache !" : "") << i;
         bavards += parle;

@@ -27,6 +27,7 @@ TEST(ScriptOrdresLecture, UneLigneFautiveEstRefuseeEnNommantLeFichierEtLaLigne) 
         {"0 0 aller 1 x", 1, "« x » n'est pas un nombre entier"},
         {"0 0 aller 1 2.5", 1, "« 2.5 » n'est pas un nombre entier"},
         {"0 0 aller 1 99999999999", 1, "nombre 99999999999 hors limites"},
+        {"0 0 batir 0 2000000 0", 1, "nombre 2000000 hors limites"},
         {"x 0 arreter", 1, "le tour « x » n'est pas un nombre entier"},
         {"-1 0 arreter", 1, "le tour -1 est négatif"},
         {"5 0 arreter\n# puis\n4 0 arreter", 3, "le tour 4 précède celui de la ligne 1 (5)"},
