@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstdint>
+#include <vector>
 
 #include "rules/Empreinte.h"
 
@@ -31,3 +32,10 @@ public:
 private:
     bool Reserve = false;
 };
+
+// The slot of a row that holds an object; nothing for an empty slot or a number outside the row.
+inline ClsJeuObjet* Objet_Tenu(std::vector<ClsJeuObjet>& rangee, int slot) {
+    if (slot < 0 || static_cast<std::size_t>(slot) >= rangee.size()) return nullptr;
+    ClsJeuObjet& o = rangee[static_cast<std::size_t>(slot)];
+    return o.Type >= 0 ? &o : nullptr;
+}

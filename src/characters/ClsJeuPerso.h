@@ -291,6 +291,9 @@ public:
     // Levels and competences.
     void Ajouter_Experience(int32_t& valeur, double gain, double& exp, int32_t& compte, double& bas,
                             double& haut, GenreExperience genre);
+    void Ajouter_Experience(Competence& c, double gain, GenreExperience genre) {
+        Ajouter_Experience(c.Valeur, gain, c.Exp, c.Compte, c.SeuilBas, c.SeuilHaut, genre);
+    }
     void Gestion_Tous_Niveaux();
     void Gestion_Niveau_Comp_Speciale(int k, double montant, const ClsJeuParam& param);
     void Gestion_Niveau_Prime(double montant, const ClsJeuParam& param);

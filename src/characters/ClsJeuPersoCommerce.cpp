@@ -4,14 +4,6 @@
 #include "rules/ClsJeuParam.h"
 #include "world/ClsJeuBatiment.h"
 
-namespace {
-
-bool Slot_Tenu(const std::vector<ClsJeuObjet>& rangee, int slot) {
-    return slot >= 0 && static_cast<std::size_t>(slot) < rangee.size() && rangee[static_cast<std::size_t>(slot)].Type >= 0;
-}
-
-}  // namespace
-
 void ClsJeuPerso::Objet_Ramasser_Maison(int n, ClsJeuBatiment& maison, const ClsJeuParam& param) {
     const int16_t o = maison.Objet_De_Ligne(n, param);
     if (o < 0 || Inventaire_Plein() || maison.Stock_Objets(n) < 1) return;
@@ -35,21 +27,21 @@ void ClsJeuPerso::Objet_Acheter_Maison(int n, ClsJeuBatiment& maison, const ClsJ
 // A house with room takes an object of its own list; anything else is dropped, and nothing
 // on the ground remembers it.
 void ClsJeuPerso::Objet_Deposer_Maison(int slot, ClsJeuBatiment& maison, const ClsJeuParam& param) {
-    if (!Slot_Tenu(ObjetsInventaire, slot)) return;
-    ClsJeuObjet& objet = ObjetsInventaire[static_cast<std::size_t>(slot)];
+    ClsJeuObjet* objet = Objet_Tenu(ObjetsInventaire, slot);
+    if (objet == nullptr) return;
     if (maison.MaxStock - 1 >= maison.Stock) {
         for (int n = 0; maison.Objet_De_Ligne(n, param) >= 0; ++n) {
-            if (maison.Objet_De_Ligne(n, param) != objet.Type) continue;
+            if (maison.Objet_De_Ligne(n, param) != objet->Type) continue;
             maison.Stock_Objets(n, maison.Stock_Objets(n) + 1);
             break;
         }
     }
-    objet.Decharger();
+    objet->Decharger();
 }
 
 void ClsJeuPerso::Objet_Vendre_Chateau(int slot, const ClsJeuParam& param) {
-    if (!Slot_Tenu(ObjetsInventaire, slot)) return;
-    ClsJeuObjet& objet = ObjetsInventaire[static_cast<std::size_t>(slot)];
-    Definir_Argent(Argent + param.Objet_PrixVente(objet.Type));
-    objet.Decharger();
+    ClsJeuObjet* objet = Objet_Tenu(ObjetsInventaire, slot);
+    if (objet == nullptr) return;
+    Definir_Argent(Argent + param.Objet_PrixVente(objet->Type));
+    objet->Decharger();
 }

@@ -41,7 +41,7 @@ void ClsJeuPerso::Gestion_Tous_Niveaux() {
         Ajouter_Experience(jauges[k]->MaxBase, 0, jauges[k]->Exp, jauges[k]->Niveau, jauges[k]->SeuilBas,
                            jauges[k]->SeuilHaut, genres[k]);
     auto rejouer = [this](std::vector<Competence>& table, GenreExperience genre) {
-        for (Competence& c : table) Ajouter_Experience(c.Valeur, 0, c.Exp, c.Compte, c.SeuilBas, c.SeuilHaut, genre);
+        for (Competence& c : table) Ajouter_Experience(c, 0, genre);
     };
     rejouer(CompetencesSpeciales, GenreSpeciale);
     rejouer(CompetencesRessources, GenreRessource);
@@ -55,7 +55,7 @@ void ClsJeuPerso::Gestion_Niveau_Comp_Speciale(int k, double montant, const ClsJ
     if (k == 2) montant = std::min(montant, Attaque.Valeur);
     const double gain = taux[k] * montant * 20;
     Competence& c = CompetencesSpeciales[static_cast<std::size_t>(k)];
-    Ajouter_Experience(c.Valeur, gain, c.Exp, c.Compte, c.SeuilBas, c.SeuilHaut, GenreSpeciale);
+    Ajouter_Experience(c, gain, GenreSpeciale);
     if (Bonus_CompetenceSpeciales(k))
         Partager_Experience_Objets(*this, gain * partObjets[k], param,
                                    [&param, k](int16_t o) { return param.Objet_BonusCompetencesSpeciales(o, k); });
@@ -64,7 +64,7 @@ void ClsJeuPerso::Gestion_Niveau_Comp_Speciale(int k, double montant, const ClsJ
 void ClsJeuPerso::Gestion_Niveau_Prime(double montant, const ClsJeuParam& param) {
     const double gain = param.Service_CoefExp_Reel(2) * montant;
     Competence& c = CompetencesServices[1];
-    Ajouter_Experience(c.Valeur, gain, c.Exp, c.Compte, c.SeuilBas, c.SeuilHaut, GenreService);
+    Ajouter_Experience(c, gain, GenreService);
     if (Bonus_CompetenceServices(1))
         Partager_Experience_Objets(*this, gain, param, [&param](int16_t o) { return param.Objet_BonusCompetencesServices(o, 1); });
 }

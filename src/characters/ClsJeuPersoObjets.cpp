@@ -14,20 +14,13 @@ bool Occupe(const std::vector<ClsJeuObjet>& rangee, std::size_t slot) {
     return slot < rangee.size() && rangee[slot].Actif();
 }
 
-// The object in a slot of a row, or nothing for an empty slot or a number outside the row.
-ClsJeuObjet* Tenu(std::vector<ClsJeuObjet>& rangee, int slot) {
-    if (slot < 0 || static_cast<std::size_t>(slot) >= rangee.size()) return nullptr;
-    ClsJeuObjet& o = rangee[static_cast<std::size_t>(slot)];
-    return o.Type >= 0 ? &o : nullptr;
-}
-
 // A write of a slot by a loader, with no rule; a number outside the row does nothing.
 void Charger_Slot(std::vector<ClsJeuObjet>& rangee, int slot, int16_t type) {
     if (slot >= 0 && static_cast<std::size_t>(slot) < rangee.size()) rangee[static_cast<std::size_t>(slot)].Charger(type);
 }
 
 void Vider(std::vector<ClsJeuObjet>& rangee, int slot) {
-    if (ClsJeuObjet* o = Tenu(rangee, slot)) o->Decharger();
+    if (ClsJeuObjet* o = Objet_Tenu(rangee, slot)) o->Decharger();
 }
 
 bool Deux_Mains(const std::vector<ClsJeuObjet>& rangee, const ClsJeuParam& param) {
@@ -126,7 +119,7 @@ void ClsJeuPerso::Actualiser_Equipement(const ClsJeuParam& param) {
 
 // A used object: paid for by the gauges, and its effect comes on the next tick.
 void ClsJeuPerso::Objet_Equiper(int slot, const ClsJeuParam& param, const ClsJeuCommentaires& commentaires) {
-    ClsJeuObjet* objet = Tenu(ObjetsInventaire, slot);
+    ClsJeuObjet* objet = Objet_Tenu(ObjetsInventaire, slot);
     if (objet == nullptr) return;
     const int16_t o = objet->Type;
     if (!param.Objet_Utilisable(o)) {
@@ -144,7 +137,7 @@ void ClsJeuPerso::Objet_Equiper(int slot, const ClsJeuParam& param, const ClsJeu
     }
     ObjetUtilise = o;
     Competence& c = CompetencesObjets[static_cast<std::size_t>(param.Objet_Competence(o))];
-    Ajouter_Experience(c.Valeur, param.Objet_Experience(o), c.Exp, c.Compte, c.SeuilBas, c.SeuilHaut, GenreObjet);
+    Ajouter_Experience(c, param.Objet_Experience(o), GenreObjet);
     Definir_Vie(Vie.Valeur - pertes[0]);
     Definir_Energie(Energie.Valeur - pertes[1]);
     Definir_Magie(Magie.Valeur - pertes[2]);
@@ -154,7 +147,7 @@ void ClsJeuPerso::Objet_Equiper(int slot, const ClsJeuParam& param, const ClsJeu
 
 // Taken off, the object's bonuses go and the gauges shrink with their maxima.
 void ClsJeuPerso::Objet_Ranger(int slot, const ClsJeuParam& param) {
-    ClsJeuObjet* objet = Tenu(ObjetsEquipes, slot);
+    ClsJeuObjet* objet = Objet_Tenu(ObjetsEquipes, slot);
     if (objet == nullptr || Inventaire_Plein()) return;
     const int16_t o = objet->Type;
     objet->Decharger();
@@ -167,7 +160,7 @@ void ClsJeuPerso::Objet_Ranger(int slot, const ClsJeuParam& param) {
 void ClsJeuPerso::Objet_Ranger_Armes(const ClsJeuParam& param) {
     Arreter();
     for (int slot : {0, 1})
-        if (Tenu(ObjetsEquipes, slot)) Objet_Ranger(slot, param);
+        if (Objet_Tenu(ObjetsEquipes, slot)) Objet_Ranger(slot, param);
 }
 
 void ClsJeuPerso::Objet_Inventaire_Detruire(int slot) { Vider(ObjetsInventaire, slot); }

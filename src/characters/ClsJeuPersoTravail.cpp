@@ -12,10 +12,6 @@ namespace {
 constexpr double FatigueEnergie = 0.00625;
 constexpr double FatigueMoral = 0.00125;
 
-void Gagner(ClsJeuPerso& p, Competence& c, double gain, GenreExperience genre) {
-    p.Ajouter_Experience(c.Valeur, gain, c.Exp, c.Compte, c.SeuilBas, c.SeuilHaut, genre);
-}
-
 }  // namespace
 
 void ClsJeuPerso::Fatiguer() {
@@ -52,7 +48,7 @@ void ClsJeuPerso::Recolter_Ressources(int r, ClsJeuBatiment& maison, int32_t& co
     }
     if (Inactif()) return;
     Fatiguer();
-    Gagner(*this, Entree(CompetencesRessources, r), f, GenreRessource);
+    Ajouter_Experience(Entree(CompetencesRessources, r), f, GenreRessource);
     if (Bonus_CompetenceRessources(r))
         Partager_Experience_Objets(*this, f, param, [&param, r](int16_t o) { return param.Objet_BonusCompetencesRessources(o, r); });
 }
@@ -77,7 +73,7 @@ void ClsJeuPerso::Preparer_Service(ClsJeuBatiment& maison, int32_t& commentaire,
     if (Inactif()) return;
     Fatiguer();
     const double e = param.Service_CoefExp_Reel(s) * sortie;
-    Gagner(*this, Entree(CompetencesServices, s - 1), e, GenreService);
+    Ajouter_Experience(Entree(CompetencesServices, s - 1), e, GenreService);
     if (Bonus_CompetenceServices(s - 1))
         Partager_Experience_Objets(*this, e, param, [&param, s](int16_t o) { return param.Objet_BonusCompetencesServices(o, s - 1); });
 }
@@ -88,7 +84,7 @@ void ClsJeuPerso::Batir_Maison(ClsJeuFief& fief, ClsJeuBatiment& chateau, ClsJeu
     maison.Definir_Vie(maison.Definir_Vie() + g);
     Fatiguer();
     const double gain = g * 0.001 * 20;
-    Gagner(*this, Entree(CompetencesSpeciales, 0), gain, GenreSpeciale);
+    Ajouter_Experience(Entree(CompetencesSpeciales, 0), gain, GenreSpeciale);
     if (Bonus_CompetenceSpeciales(0))
         Partager_Experience_Objets(*this, gain, param, [&param](int16_t o) { return param.Objet_BonusCompetencesSpeciales(o, 0); });
     if (maison.Termine && maison.Definir_Vie() == maison.MaxVie) {
@@ -124,7 +120,7 @@ bool ClsJeuPerso::Fabriquer_Objet(const ClsJeuParam& param, ClsJeuBatiment& mais
     ProgressionFabrication += g;
     Fatiguer();
     const double gain = g * 20 * 0.0025;
-    Gagner(*this, Entree(CompetencesObjets, c), gain, GenreObjet);
+    Ajouter_Experience(Entree(CompetencesObjets, c), gain, GenreObjet);
     if (Bonus_CompetenceObjets(c))
         Partager_Experience_Objets(*this, gain, param, [&param, c](int16_t x) { return param.Objet_BonusCompetencesObjets(x, c); });
     if (param.Objet_DureeFabrication(o) > ProgressionFabrication) {

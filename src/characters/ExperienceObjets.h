@@ -10,6 +10,6 @@ void Partager_Experience_Objets(ClsJeuPerso& p, double gain, const ClsJeuParam& 
     for (const ClsJeuObjet& o : p.ObjetsEquipes) {
         if (o.Type < 0 || bonus(o.Type) <= 0) continue;
         Competence& c = p.CompetencesObjets[static_cast<std::size_t>(param.Objet_Competence(o.Type))];
-        p.Ajouter_Experience(c.Valeur, gain, c.Exp, c.Compte, c.SeuilBas, c.SeuilHaut, GenreObjet);
+        p.Ajouter_Experience(c, gain, GenreObjet);
     }
 }

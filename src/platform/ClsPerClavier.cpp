@@ -50,6 +50,5 @@ int16_t ClsPerClavier::Interpreter(bool& ctrl, bool& maj, bool& alt) {
     }
     const bool rienAvant = AucuneTouche;
     AucuneTouche = touche == 0;
-    ToucheMaintenue = touche != 0;
     return rienAvant ? touche : int16_t{0};
 }

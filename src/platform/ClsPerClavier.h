@@ -26,6 +26,5 @@ public:
     int16_t Interpreter(bool& ctrl, bool& maj, bool& alt);
 
 private:
-    bool ToucheMaintenue = false;   // a key was down at the last reading
     bool AucuneTouche = false;      // no key was down at the last reading
 };

@@ -20,7 +20,8 @@
 //   deposer SLOT       gives an inventory object to its house
 //   manger R           eats one unit of resource R
 //
-// The file is read once, before the game; giving the orders allocates nothing.
+// The file is read once, before the game; walking through the orders allocates nothing (an
+// order itself may, as building a house does).
 #pragma once
 
 #include <array>

@@ -35,7 +35,6 @@ public:
     // render runs (moving on what a render moves on). False if the file cannot be written.
     bool Capturer(const std::filesystem::path& fichier);
 
-    FrmMoteur2D& Moteur() { return moteur_; }
     EcranHorsEcran& Ecran() { return ecran_; }
 
 private:
