@@ -143,6 +143,7 @@ void ClsIntMonde::Afficher_FPS(int32_t fps, Surface& ecran) const {
     std::snprintf(chiffres, sizeof chiffres, "%02d", static_cast<int>(fps));
     const int32_t trait = ecran.CouleurTrait;
     ecran.Definir_Couleur_Trait(FPSCouleur);
-    ecran.Dessiner_Texte(FPSPositionX, FPSPositionY, FPSMessage + chiffres);
+    texteFPS_.assign(FPSMessage).append(chiffres);
+    ecran.Dessiner_Texte(FPSPositionX, FPSPositionY, texteFPS_);
     ecran.Definir_Couleur_Trait(trait);
 }

@@ -54,6 +54,7 @@ public:
 private:
     bool AfficherInfoBulleTerrain = true;
     std::string fichierInterface_;   // the layout file read, empty when there is none
+    mutable std::string texteFPS_;   // the rate's text, rebuilt in place at each render
 
     void Afficher_Info_Bulle(int32_t x, int32_t y, std::string_view texte, Surface& ecran, bool forcer) const;
 };

@@ -286,18 +286,18 @@ void FrmMoteur2D::Afficher_Info_Terrain(int32_t x, int32_t y) {
     if (!Tampon || !Interface.Definir_AfficherInfoBulleTerrain()) return;
     const ClsJeuPerso& h = Heros();
     const auto c = static_cast<std::size_t>(CibleSousPoint);
-    std::string texte;
+    std::string& texte = TexteBulle;
     switch (AffSouris.Mode) {
     case PointGisement: {
         const int32_t r = Ressources[c].TypeRessource;
-        texte = Param.Ressources_Nom(r) + " : " + Texte_Nombre(Int(h.Definir_Ressources(r))) + " / " +
-                std::to_string(h.Definir_MaxRessources(r));
+        texte.assign(Param.Ressources_Nom(r)).append(" : ").append(Texte_Nombre(Int(h.Definir_Ressources(r))));
+        texte.append(" / ").append(std::to_string(h.Definir_MaxRessources(r)));
         break;
     }
     case PointMaisonAReparer:
-    case PointMaisonEntiere: texte = Param.Batiment_Nom(Maisons[static_cast<std::size_t>(PersoActif)].Type) + " "; break;
-    case PointMaisonAmieCommerce: texte = Param.Batiment_Nom(Maisons[c].Type) + " "; break;
-    case PointEnnemi: texte = (Persos[c].Nom.empty() ? std::string("Humain") : Persos[c].Nom) + " "; break;
+    case PointMaisonEntiere: texte.assign(Param.Batiment_Nom(Maisons[static_cast<std::size_t>(PersoActif)].Type)).append(" "); break;
+    case PointMaisonAmieCommerce: texte.assign(Param.Batiment_Nom(Maisons[c].Type)).append(" "); break;
+    case PointEnnemi: texte.assign(Persos[c].Nom.empty() ? std::string_view("Humain") : Persos[c].Nom).append(" "); break;
     default: return;
     }
     Interface.Afficher_Info_Bulles_Terrain(x, y, texte, *Tampon);

@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string>
 
 #include "interface/ClsIntMonde.h"
 #include "platform/ClsAffSprite.h"
@@ -66,6 +67,7 @@ public:
 private:
     Peripheriques P;
     Surface* Tampon = nullptr;   // the back buffer of the render under way, none without a screen
+    std::string TexteBulle;      // the pointer's bubble, rebuilt in place at each render
 
     void Lire_Peripheriques();
     void Tour();
