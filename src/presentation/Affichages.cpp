@@ -22,3 +22,13 @@ void Creer_Affichages() {
     Reinitialiser_Affichages();
     AffPerso.Initialiser();
 }
+
+void Charger_Affichages(const ClsJeuParam& param) {
+    AffPerso.Charger(param);
+    AffTerrain.Charger("Plaine");
+    AffChateaux.Charger(ClsAffBatiment::Chateaux, param);
+    AffMaisons.Charger(ClsAffBatiment::Maisons, param);
+    AffRessources.Charger();
+    AffSouris.Charger();
+    AffEffet.Charger(param);
+}

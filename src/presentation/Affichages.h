@@ -19,5 +19,8 @@ extern ClsAffEffet AffEffet;
 
 // Fresh families, in the order the game creates them: the hero folders are counted now.
 void Creer_Affichages();
+// The pictures of the world: characters, the "Plaine" ground, castles, houses, deposits,
+// pointer and effects. A missing picture ends the program with its message.
+void Charger_Affichages(const ClsJeuParam& param);
 // Every family back to empty, its pictures freed, as at the start of the process.
 void Reinitialiser_Affichages();

@@ -114,13 +114,7 @@ void Deplacer_Persos() {
 void FrmMoteur2D::Charger_Images() {
     if (!P.Ecran.Tampon()) return;
     Interface.Charger(EcranLargeur);
-    AffPerso.Charger(Param);
-    AffTerrain.Charger("Plaine");
-    AffChateaux.Charger(ClsAffBatiment::Chateaux, Param);
-    AffMaisons.Charger(ClsAffBatiment::Maisons, Param);
-    AffRessources.Charger();
-    AffSouris.Charger();
-    AffEffet.Charger(Param);
+    Charger_Affichages(Param);
     ImageFin.Charger("Fenetres/Victoire-Defaite");
 }
 

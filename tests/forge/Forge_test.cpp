@@ -284,13 +284,7 @@ TEST_F(Forge, LesFamillesTrouventUnDessinPourChaqueEtatDesRegles) {
     EcranLargeur = 200;
     EcranHauteur = 200;
     Creer_Affichages();
-    AffPerso.Charger(Param);
-    AffTerrain.Charger("Plaine");
-    AffChateaux.Charger(ClsAffBatiment::Chateaux, Param);
-    AffMaisons.Charger(ClsAffBatiment::Maisons, Param);
-    AffRessources.Charger();
-    AffSouris.Charger();
-    AffEffet.Charger(Param);
+    Charger_Affichages(Param);
     ClsAffObjets objets;
     objets.Charger(Param);
     ClsAffBouton boutons[ClsAffBouton::NombreFamilles];
