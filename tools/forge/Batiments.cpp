@@ -73,6 +73,17 @@ Volume Maison(const Contexte& c, int w, Forme forme, int hw = -1, int dp = -1) {
     return v;
 }
 
+// A plank lean-to beside the main house: w wide at x, standing recul above the ground line,
+// its door in the middle.
+Volume Appentis_De_Planches(const Contexte& c, int w, int x, int recul) {
+    Volume v = Maison(c, w, Forme::Appentis, 10, 8);
+    v.x = x;
+    v.yb = c.yb - recul;
+    v.porte = v.Centre();
+    v.mur = Mur::Planches;
+    return v;
+}
+
 // ---------------------------------------------------------------- animations
 
 std::function<void(Toile&, double)> Fumee_De(const Volume& v, Rampe teinte = Pal::DrapGris) {
@@ -215,12 +226,7 @@ void Bergerie(Plan& p, const Contexte& c) {
 }
 
 void Jardin(Plan& p, const Contexte& c) {
-    Volume v = Maison(c, 20, Forme::Appentis, 10, 8);
-    v.x = c.W - v.w - 2;
-    v.yb = c.yb - 12;
-    v.porte = v.Centre();
-    v.mur = Mur::Planches;
-    p.volumes.push_back(v);
+    p.volumes.push_back(Appentis_De_Planches(c, 20, c.W - 20 - 2, 12));
     const int W = c.W, yb = c.yb;
     p.decor = [W, yb](Toile& t) {
         for (int rang = 0; rang < 3; ++rang) {
@@ -344,12 +350,7 @@ void Mine(Plan& p, const Contexte& c, const Rampe& filon) {
 }
 
 void Fosse(Plan& p, const Contexte& c) {
-    Volume v = Maison(c, 22, Forme::Appentis, 10, 8);
-    v.x = c.W - v.w - 2;
-    v.yb = c.yb - 10;
-    v.porte = v.Centre();
-    v.mur = Mur::Planches;
-    p.volumes.push_back(v);
+    p.volumes.push_back(Appentis_De_Planches(c, 22, c.W - 22 - 2, 10));
     const int W = c.W, yb = c.yb;
     p.decor = [W, yb](Toile& t) {
         t.Ellipse(W / 3.0, yb - 8, W / 3.0 - 2, 8, Pal::Brique[1]);
@@ -437,12 +438,8 @@ void Briqueterie(Plan& p, const Contexte& c) {
     four.x = c.W - 28;
     four.porte = four.Centre();
     four.fenetres = 0;
-    Volume hangar = Maison(c, 22, Forme::Appentis, 10, 8);
-    hangar.x = 2;
-    hangar.yb = c.yb - 12;
-    hangar.porte = hangar.Centre();
+    Volume hangar = Appentis_De_Planches(c, 22, 2, 12);
     hangar.ouverture = true;
-    hangar.mur = Mur::Planches;
     p.volumes.push_back(hangar);
     p.volumes.push_back(four);
     p.pierre = true;
