@@ -3,7 +3,9 @@
 #include <cmath>
 
 #include "presentation/Affichages.h"
+#include "ai/ModIA.h"
 #include "ai/ModIA2.h"
+#include "ai/TablesIA.h"
 #include "characters/Deplacement.h"
 #include "platform/ClsPerEcran.h"
 #include "rules/ClsJeuParam.h"
@@ -59,6 +61,7 @@ bool FrmMoteur2D::Ouvrir(const ChoixPartie& choix) {
     DernierTemps = TempsCourant = Horloge();
     DebutSeconde = TempsCourant;
     Centrer_Camera();
+    Initialiser_IA();
     FinPartie = Victoire = Defaite = false;
     return true;
 }
@@ -86,6 +89,7 @@ void FrmMoteur2D::Lire_Peripheriques() {
 // One tick of the world: Executer_IA, Gerer_Fiefs, Centrer_Camera, Deplacer_Persos and
 // Appliquer_Objets_Utilises, in that order.
 void FrmMoteur2D::Tour() {
+    Executer_IA();
     Gerer_Fiefs();
     Centrer_Camera();
     Deplacer_Persos();

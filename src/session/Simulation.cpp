@@ -2,6 +2,7 @@
 
 #include <ostream>
 
+#include "ai/TablesIA.h"
 #include "platform/ClsPerEcran.h"
 #include "platform/Peripheriques.h"
 #include "rules/ClsJeuParam.h"
@@ -52,6 +53,7 @@ std::optional<int64_t> Simuler(const ChoixPartie& choix, int64_t ticks, ScriptOr
 uint64_t Empreinte_Etat() {
     Empreinte e;
     Empreindre_Monde(e);
+    Empreindre_IA(e);
     e.Ajouter(Etat_Hasard());
     return e.Valeur();
 }
