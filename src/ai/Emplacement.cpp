@@ -1,6 +1,7 @@
 // A place to build around the castle. Each fief's builders share one ring: it grows by a
 // tile at every try and stays grown until something is placed, then falls back to the
 // castle's width.
+#include "ai/IndexRecherches.h"
 #include "ai/Recherches.h"
 #include "ai/TablesIA.h"
 #include "ai/TestPoint.h"
@@ -37,7 +38,9 @@ bool Chercher_Emplacement(int32_t i, int32_t& x, int32_t& y, int16_t type) {
         anneau += TailleCase;
         x = Coordonnee(c.PositionX, Param.ChateauxLargeur, Monde.Largeur, largeur, anneau);
         y = Coordonnee(c.PositionY, Param.ChateauxHauteur, Monde.Hauteur, hauteur, anneau);
-        if (Tester_Point(i, x, y, largeur, hauteur, false) == PointRien) {
+        const bool libre = Index_Ouvert() ? Index_Place_Libre(i, x, y, largeur, hauteur)
+                                          : Tester_Point(i, x, y, largeur, hauteur, false) == PointRien;
+        if (libre) {
             anneau = Param.ChateauxLargeur;
             return true;
         }

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "ai/CriteresRecherche.h"
+#include "ai/IndexRecherches.h"
 #include "ai/Recherches.h"
 #include "ai/TablesIA.h"
 #include "ai/TrancheRecherche.h"
@@ -33,6 +34,15 @@ auto Un_A_Un(const ClsJeuPerso& p, APortee aPortee) {
     };
 }
 
+using Indexe = int32_t (*)(const ClsJeuPerso&, int32_t, int32_t, int32_t);
+
+// The same from the index of the searches while it is open.
+auto Premier_Cible(const ClsJeuPerso& p, APortee aPortee, Indexe indexe) {
+    return [&p, indexe, chacun = Un_A_Un(p, aPortee)](int32_t debut, int32_t fin, int32_t rayon) {
+        return Index_Ouvert() ? indexe(p, debut, fin, rayon) : chacun(debut, fin, rayon);
+    };
+}
+
 // The search of an enemy target for i over n candidates, with its cursor and radius: the
 // radius widens by `pas` after each full pass, and goes back to 64 above 640.
 template <class Premier>
@@ -58,13 +68,14 @@ double Chateau_Ennemi_Le_Plus_Proche(const ClsJeuPerso& p) {
 
 bool Chercher_Ennemi(int32_t i, int32_t& resultat) {
     const ClsJeuPerso& p = Persos[U(i)];
-    return Chercher_Cible(i, Taille(Persos), CurseurPerso, RayonPerso, 48, Un_A_Un(p, Perso_Ennemi_A_Portee), resultat);
+    return Chercher_Cible(i, Taille(Persos), CurseurPerso, RayonPerso, 48,
+                          Premier_Cible(p, Perso_Ennemi_A_Portee, Index_Premier_Ennemi), resultat);
 }
 
 bool Chercher_Maison_Ennemie(int32_t i, int32_t& resultat) {
     const ClsJeuPerso& p = Persos[U(i)];
     return Chercher_Cible(i, Taille(Maisons), CurseurMaisonEnnemie, RayonMaisonEnnemie, 96,
-                          Un_A_Un(p, Maison_Ennemie_A_Portee), resultat);
+                          Premier_Cible(p, Maison_Ennemie_A_Portee, Index_Premier_Maison_Ennemie), resultat);
 }
 
 bool Chercher_Chateau_Ennemi(int32_t i, int32_t& resultat) {
@@ -84,6 +95,7 @@ bool Chercher_Maison(int32_t perso, int32_t i, int16_t ressource, int16_t besoin
     const ClsJeuPerso& p = Persos[U(perso)];
     const int32_t fief = Persos[U(i)].Fief;
     auto premier = [&](int32_t debut, int32_t fin, int32_t rayon) {
+        if (Index_Ouvert()) return Index_Premier_Maison(course, fief, p.PositionX, p.PositionY, debut, fin, rayon);
         return Premier_Un_A_Un(debut, fin, [&](int32_t k) {
             return Maison_Convient(course, Maisons[U(k)], Persos[U(k)].Fief, fief, p.PositionX, p.PositionY, rayon);
         });

@@ -48,6 +48,7 @@ void ClsJeuBatiment::Creer(int32_t x, int32_t y, int16_t type, ClsJeuPerso& cons
     Definir_Nombre_Stock_Objet(Fabrique ? param.Batiment_NombreObjetsFabriques(type) : 1);
     for (int r = 0; r < param.NombreRessources; ++r) Ajouter_Ressource(constructeur, r, -param.Batiment_Prix(type, r));
     constructeur.Visible(true);
+    MaisonsCreees.push_back(Numero);
 }
 
 void ClsJeuBatiment::Demolir(ClsJeuPerso& proprietaire, const ClsJeuParam& param) {

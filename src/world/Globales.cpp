@@ -8,6 +8,7 @@ std::vector<ClsJeuEffet> EffetsMaisons;
 int32_t PersoActif = 0;
 std::vector<ClsJeuBatiment> Chateaux;
 std::vector<ClsJeuBatiment> Maisons;
+std::vector<int32_t> MaisonsCreees;
 std::vector<ClsJeuRessources> Ressources;
 ClsJeu Jeu;
 ClsJeuCommentaires Commentaires;
@@ -15,6 +16,7 @@ bool FinPartie = false, Victoire = false, Defaite = false;
 
 void Vider_Monde() {
     Maisons.clear();
+    MaisonsCreees.clear();
     Chateaux.clear();
     Fiefs.clear();
     Ressources.clear();

@@ -24,6 +24,10 @@ extern std::vector<ClsJeuEffet> EffetsMaisons;
 extern int32_t PersoActif;
 extern std::vector<ClsJeuBatiment> Chateaux;
 extern std::vector<ClsJeuBatiment> Maisons;
+// House slots that Creer has rebuilt since the AI's searches last took their picture of the
+// houses: a house gets a new place and kind only through Creer, so the picture catches up
+// from this list.
+extern std::vector<int32_t> MaisonsCreees;
 extern std::vector<ClsJeuRessources> Ressources;
 extern ClsJeu Jeu;
 extern ClsJeuCommentaires Commentaires;   // the phrase book, read once at start

@@ -1,0 +1,251 @@
+#include "ai/IndexRecherches.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <limits>
+#include <vector>
+
+#include "ai/CriteresRecherche.h"
+#include "ai/GrilleIndices.h"
+#include "ai/TestPoint.h"
+#include "rules/ClsJeuParam.h"
+#include "world/Globales.h"
+
+namespace {
+
+std::size_t U(int32_t k) { return static_cast<std::size_t>(k); }
+
+constexpr int32_t SansFin = std::numeric_limits<int32_t>::max();
+
+// The distinct values met in a field (teams, fiefs), each the number of its group.
+class Valeurs {
+public:
+    void Vider() { valeurs_.clear(); }
+    int32_t Groupe_De(int32_t v) {
+        const int32_t g = Trouver(v);
+        if (g >= 0) return g;
+        valeurs_.push_back(v);
+        return Nombre() - 1;
+    }
+    int32_t Trouver(int32_t v) const {
+        const auto it = std::find(valeurs_.begin(), valeurs_.end(), v);
+        return it == valeurs_.end() ? -1 : static_cast<int32_t>(it - valeurs_.begin());
+    }
+    int32_t Nombre() const { return static_cast<int32_t>(valeurs_.size()); }
+    int32_t operator[](int32_t g) const { return valeurs_[U(g)]; }
+
+private:
+    std::vector<int32_t> valeurs_;
+};
+
+// What a house is, as stored in it: all Chercher_Maison asks of it beyond place and state.
+struct Genre {
+    int16_t Type = 0;
+    bool Magasin = false, Fabrique = false;
+    int16_t Service = 0;
+    bool operator==(const Genre&) const = default;
+};
+
+// The genres met among the houses. Genre t is the one a house of type t gets from Creer;
+// any other (an empty slot, a house read from an odd file) comes after them.
+class Genres {
+public:
+    void Vider() {
+        genres_.clear();
+        for (int16_t t = 0; t < Param.NombreTypeBatiments; ++t)
+            genres_.push_back({t, Param.Batiment_Magasin(t), Param.Batiment_Fabrique(t), Param.Batiment_Service(t)});
+    }
+    int32_t Numero_De(const ClsJeuBatiment& b) {
+        const Genre g{b.Type, b.Magasin, b.Fabrique, b.Service};
+        if (b.Type >= 0 && b.Type < Param.NombreTypeBatiments && genres_[U(b.Type)] == g) return b.Type;
+        const auto autre = std::find(genres_.begin() + Param.NombreTypeBatiments, genres_.end(), g);
+        if (autre != genres_.end()) return static_cast<int32_t>(autre - genres_.begin());
+        genres_.push_back(g);
+        return Nombre() - 1;
+    }
+    int32_t Nombre() const { return static_cast<int32_t>(genres_.size()); }
+    bool Convient(int32_t g, const Course& c) const {
+        const Genre& x = genres_[U(g)];
+        return Genre_Convient(c, x.Type, x.Magasin, x.Fabrique, x.Service);
+    }
+
+private:
+    std::vector<Genre> genres_;
+};
+
+// What the picture keeps of a character and of its house slot.
+struct Photo {
+    int32_t X = 0, Y = 0;
+    int32_t Equipe = 0, Fief = 0;          // groups
+    int32_t MaisonX = 0, MaisonY = 0;
+    int32_t Genre = 0;
+    bool Batie = false;                    // the slot has held a house at some time
+};
+
+struct Index {
+    bool Ouvert = false;
+    std::size_t NombrePersos = 0, NombreRessources = 0;
+    Valeurs Equipes, FiefsVus;
+    Genres GenresVus;
+    std::vector<Photo> Photos;
+    int32_t LargeurMaisons = 0, HauteurMaisons = 0;   // the largest of the houses pictured
+    GrilleIndices ParEquipe, MaisonsParEquipe, MaisonsParGenre, Gisements;
+
+    void Photographier();
+    void Classer();
+};
+
+Index Idx;
+
+void Index::Photographier() {
+    NombrePersos = Persos.size();
+    NombreRessources = Ressources.size();
+    Equipes.Vider();
+    FiefsVus.Vider();
+    GenresVus.Vider();
+    Photos.resize(NombrePersos);
+    LargeurMaisons = HauteurMaisons = 0;
+    for (std::size_t k = 0; k < NombrePersos; ++k) {
+        const ClsJeuPerso& p = Persos[k];
+        const ClsJeuBatiment& m = Maisons[k];
+        Photo& photo = Photos[k];
+        photo = {p.PositionX, p.PositionY, Equipes.Groupe_De(p.Equipe), FiefsVus.Groupe_De(p.Fief),
+                 m.PositionX, m.PositionY, GenresVus.Numero_De(m), m.MaxVie > 0 || m.Vie > 0};
+        if (!photo.Batie) continue;
+        LargeurMaisons = std::max<int32_t>(LargeurMaisons, m.Largeur);
+        HauteurMaisons = std::max<int32_t>(HauteurMaisons, m.Hauteur);
+    }
+}
+
+void Index::Classer() {
+    const int32_t largeur = Monde.Largeur * TailleCase, hauteur = Monde.Hauteur * TailleCase;
+    const auto n = static_cast<int32_t>(NombrePersos);
+    const int32_t genres = GenresVus.Nombre();
+    auto photo = [this](int32_t k) -> const Photo& { return Photos[U(k)]; };
+    ParEquipe.Construire(
+        Equipes.Nombre(), largeur, hauteur, n, [&](int32_t k) { return photo(k).Equipe; },
+        [&](int32_t k) { return EntreeGrille{k, photo(k).X, photo(k).Y}; });
+    auto maison = [&](int32_t k) { return EntreeGrille{k, photo(k).MaisonX, photo(k).MaisonY}; };
+    MaisonsParEquipe.Construire(
+        Equipes.Nombre(), largeur, hauteur, n, [&](int32_t k) { return photo(k).Batie ? photo(k).Equipe : -1; },
+        maison);
+    MaisonsParGenre.Construire(
+        FiefsVus.Nombre() * genres, 0, 0, n, [&](int32_t k) { return photo(k).Fief * genres + photo(k).Genre; },
+        maison);
+    Gisements.Construire(
+        1, largeur, hauteur, static_cast<int32_t>(NombreRessources), [](int32_t) { return 0; },
+        [](int32_t k) { return EntreeGrille{k, Ressources[U(k)].PositionX, Ressources[U(k)].PositionY}; });
+}
+
+// The lowest of the houses Creer has rebuilt since the picture, in [debut, fin), for which
+// qualifie(k) holds; fin when none. (A building outside Maisons rebuilt by Creer is no house.)
+template <class Qualifie>
+int32_t Premiere_Maison_Creee(int32_t debut, int32_t fin, Qualifie&& qualifie) {
+    int32_t meilleur = fin;
+    for (int32_t k : MaisonsCreees)
+        if (k >= debut && k < meilleur && U(k) < Maisons.size() && qualifie(k)) meilleur = k;
+    return meilleur;
+}
+
+// The lowest qualifying index over the groups of a grid for which prendre(g) holds.
+template <class Prendre, class Qualifie>
+int32_t Premier_Des_Groupes(const GrilleIndices& grille, const GrilleIndices::Zone& zone, int32_t debut, int32_t fin,
+                            Prendre&& prendre, Qualifie&& qualifie) {
+    int32_t meilleur = fin;
+    for (int32_t g = 0; g < grille.Groupes(); ++g)
+        if (prendre(g)) meilleur = grille.Premier(g, zone, debut, meilleur, qualifie);
+    return meilleur;
+}
+
+// The squares around (x, y) within rayon each way.
+GrilleIndices::Zone Autour(const GrilleIndices& grille, int32_t x, int32_t y, int32_t rayon) {
+    return grille.Zone_De(static_cast<int64_t>(x) - rayon, static_cast<int64_t>(x) + rayon,
+                          static_cast<int64_t>(y) - rayon, static_cast<int64_t>(y) + rayon);
+}
+
+int32_t Ou_Rien(int32_t k, int32_t fin) { return k < fin ? k : -1; }
+
+// Whether any thing of the grid, its box of the given size at its place, touches the box.
+template <class Prendre>
+bool Touche_Dans(const GrilleIndices& grille, GroupePoint g, const Observateur& o, const BoitePoint& boite,
+                 int32_t largeur, int32_t hauteur, Prendre&& prendre) {
+    const GrilleIndices::Zone zone =
+        grille.Zone_De(static_cast<int64_t>(boite.X) - largeur, static_cast<int64_t>(boite.X) + boite.Largeur,
+                       static_cast<int64_t>(boite.Y) - hauteur, static_cast<int64_t>(boite.Y) + boite.Hauteur);
+    const int32_t k = Premier_Des_Groupes(grille, zone, 0, SansFin, prendre, [&](const EntreeGrille& e) {
+        return Trouve_Dans(g, e.Numero, o, boite);
+    });
+    return k < SansFin;
+}
+
+}  // namespace
+
+TourDeRecherches::TourDeRecherches() {
+    Idx.Ouvert = Maisons.size() == Persos.size();
+    if (!Idx.Ouvert) return;
+    Idx.Photographier();
+    Idx.Classer();
+    MaisonsCreees.clear();
+}
+
+TourDeRecherches::~TourDeRecherches() { Idx.Ouvert = false; }
+
+bool Index_Ouvert() {
+    return Idx.Ouvert && Persos.size() == Idx.NombrePersos && Maisons.size() == Idx.NombrePersos &&
+           Ressources.size() == Idx.NombreRessources;
+}
+
+int32_t Index_Premier_Ennemi(const ClsJeuPerso& p, int32_t debut, int32_t fin, int32_t rayon) {
+    const int32_t k = Premier_Des_Groupes(
+        Idx.ParEquipe, Autour(Idx.ParEquipe, p.PositionX, p.PositionY, rayon), debut, fin,
+        [&p](int32_t g) { return Idx.Equipes[g] != p.Equipe; },
+        [&](const EntreeGrille& e) {
+            return Distance(e.X, e.Y, p.PositionX, p.PositionY) < rayon && Perso_Ennemi_A_Portee(p, e.Numero, rayon);
+        });
+    return Ou_Rien(k, fin);
+}
+
+int32_t Index_Premier_Maison_Ennemie(const ClsJeuPerso& p, int32_t debut, int32_t fin, int32_t rayon) {
+    auto qualifie = [&p, rayon](int32_t k) { return Maison_Ennemie_A_Portee(p, k, rayon); };
+    const int32_t k = Premier_Des_Groupes(
+        Idx.MaisonsParEquipe, Autour(Idx.MaisonsParEquipe, p.PositionX, p.PositionY, rayon), debut, fin,
+        [&p](int32_t g) { return Idx.Equipes[g] != p.Equipe; },
+        [&](const EntreeGrille& e) {
+            return Distance(e.X, e.Y, p.PositionX, p.PositionY) < rayon && qualifie(e.Numero);
+        });
+    return Ou_Rien(Premiere_Maison_Creee(debut, k, qualifie), fin);
+}
+
+int32_t Index_Premier_Maison(const Course& c, int32_t fief, int32_t x, int32_t y, int32_t debut, int32_t fin,
+                             int32_t rayon) {
+    auto qualifie = [&](int32_t k) { return Maison_Convient(c, Maisons[U(k)], Persos[U(k)].Fief, fief, x, y, rayon); };
+    auto proche = [&](const EntreeGrille& e) {
+        return std::llabs(static_cast<int64_t>(x) - e.X) < rayon && std::llabs(static_cast<int64_t>(y) - e.Y) < rayon &&
+               qualifie(e.Numero);
+    };
+    // The houses of the fief, a list for each genre that the errand may take.
+    const int32_t groupeFief = Idx.FiefsVus.Trouver(fief), genres = Idx.GenresVus.Nombre();
+    const GrilleIndices::Zone partout{0, 0, 0, 0};
+    int32_t meilleur = fin;
+    for (int32_t g = 0; groupeFief >= 0 && g < genres; ++g)
+        if (Idx.GenresVus.Convient(g, c))
+            meilleur = Idx.MaisonsParGenre.Premier(groupeFief * genres + g, partout, debut, meilleur, proche);
+    return Ou_Rien(Premiere_Maison_Creee(debut, meilleur, qualifie), fin);
+}
+
+bool Index_Place_Libre(int32_t i, int32_t x, int32_t y, int32_t largeur, int32_t hauteur) {
+    const Observateur o = Observateur_De(i);
+    const BoitePoint boite{x, y, largeur, hauteur};
+    auto tous = [](int32_t) { return true; };
+    if (Touche_Dans(Idx.ParEquipe, GroupePoint::Persos, o, boite, LargeurPerso, HauteurPerso,
+                    [&o](int32_t g) { return Idx.Equipes[g] != o.Equipe; }))
+        return false;
+    for (int32_t k = 0; k < Nombre_Dans(GroupePoint::Chateaux); ++k)
+        if (Trouve_Dans(GroupePoint::Chateaux, k, o, boite)) return false;
+    auto maison = [&](int32_t k) { return Trouve_Dans(GroupePoint::Maisons, k, o, boite); };
+    if (Touche_Dans(Idx.MaisonsParEquipe, GroupePoint::Maisons, o, boite, Idx.LargeurMaisons, Idx.HauteurMaisons,
+                    tous) ||
+        Premiere_Maison_Creee(0, SansFin, maison) < SansFin)
+        return false;
+    return !Touche_Dans(Idx.Gisements, GroupePoint::Gisements, o, boite, LargeurGisement, HauteurGisement, tous);
+}

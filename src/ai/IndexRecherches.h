@@ -1,0 +1,39 @@
+// While the thoughts of a tick run, the searches read an index instead of walking every
+// candidate. Opening it takes a picture of what no thought changes: where every character
+// and house stands, the teams and fiefs, what kind each house is. The rest (alive, in the
+// open, standing, finished, stocked) is read from the record of each candidate the index
+// proposes, so what a thought changes there is seen by the next search at once; and a house
+// that Creer rebuilds meanwhile (MaisonsCreees) is looked at directly until the next picture.
+//
+// Every answer is thus the one of the plain walk: the index only leaves out what cannot
+// qualify. Characters move, arrays grow and teams change between the ticks' thoughts, and a
+// new picture is taken at the next opening. Outside an open index (key commands, scenarios,
+// tests) the searches walk the arrays one by one.
+#pragma once
+
+#include <cstdint>
+
+class ClsJeuPerso;
+struct Course;
+
+// Opens the index for the thoughts of one tick, closes it at the end of its scope.
+class TourDeRecherches {
+public:
+    TourDeRecherches();
+    ~TourDeRecherches();
+    TourDeRecherches(const TourDeRecherches&) = delete;
+    TourDeRecherches& operator=(const TourDeRecherches&) = delete;
+};
+
+// Open, and on arrays of the size it pictured.
+bool Index_Ouvert();
+
+// The first index of [debut, fin) that qualifies within rayon, as the searches of the same
+// names define it; -1 when none.
+int32_t Index_Premier_Ennemi(const ClsJeuPerso& p, int32_t debut, int32_t fin, int32_t rayon);
+int32_t Index_Premier_Maison_Ennemie(const ClsJeuPerso& p, int32_t debut, int32_t fin, int32_t rayon);
+// For an errand of a character of fief `fief` standing at (x, y).
+int32_t Index_Premier_Maison(const Course& c, int32_t fief, int32_t x, int32_t y, int32_t debut, int32_t fin,
+                             int32_t rayon);
+// Tester_Point(i, x, y, largeur, hauteur) gives 0.
+bool Index_Place_Libre(int32_t i, int32_t x, int32_t y, int32_t largeur, int32_t hauteur);
