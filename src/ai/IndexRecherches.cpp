@@ -54,11 +54,12 @@ public:
         genres_.clear();
         for (int16_t t = 0; t < Param.NombreTypeBatiments; ++t)
             genres_.push_back({t, Param.Batiment_Magasin(t), Param.Batiment_Fabrique(t), Param.Batiment_Service(t)});
+        types_ = Param.NombreTypeBatiments;
     }
     int32_t Numero_De(const ClsJeuBatiment& b) {
         const Genre g{b.Type, b.Magasin, b.Fabrique, b.Service};
-        if (b.Type >= 0 && b.Type < Param.NombreTypeBatiments && genres_[U(b.Type)] == g) return b.Type;
-        const auto autre = std::find(genres_.begin() + Param.NombreTypeBatiments, genres_.end(), g);
+        if (b.Type >= 0 && b.Type < types_ && genres_[U(b.Type)] == g) return b.Type;
+        const auto autre = std::find(genres_.begin() + types_, genres_.end(), g);
         if (autre != genres_.end()) return static_cast<int32_t>(autre - genres_.begin());
         genres_.push_back(g);
         return Nombre() - 1;
@@ -71,79 +72,141 @@ public:
 
 private:
     std::vector<Genre> genres_;
+    int32_t types_ = 0;
 };
 
-// What the picture keeps of a character and of its house slot.
-struct Photo {
-    int32_t X = 0, Y = 0;
-    int32_t Equipe = 0, Fief = 0;          // groups
-    int32_t MaisonX = 0, MaisonY = 0;
-    int32_t Genre = 0;
-    bool Batie = false;                    // the slot has held a house at some time
+// What the picture keeps of a character, and of its house slot with the owner's side.
+struct PhotoPerso {
+    int32_t X = 0, Y = 0, Equipe = 0;   // group of the team
 };
+struct PhotoMaison {
+    int32_t X = 0, Y = 0, Equipe = -1, Fief = -1, Genre = -1;   // groups
+    int16_t Largeur = 0, Hauteur = 0;
+    bool Batie = false;                                         // has held a house at some time
+    bool operator==(const PhotoMaison&) const = default;
+};
+
+// Houses seldom change: their grids are filed again only once enough of them have, and
+// until then the slots that changed are looked at directly.
+constexpr std::size_t SeuilRevues = 32;
+
+// The records are large and far apart: the ones a few steps ahead are asked for early, so
+// that memory brings them in while the current ones are read.
+constexpr std::size_t Avance = 8;
+void Precharger(const ClsJeuPerso& p) {
+    __builtin_prefetch(&p.PositionX);
+    __builtin_prefetch(&p.Equipe);
+}
 
 struct Index {
     bool Ouvert = false;
     std::size_t NombrePersos = 0, NombreRessources = 0;
     Valeurs Equipes, FiefsVus;
     Genres GenresVus;
-    std::vector<Photo> Photos;
-    int32_t LargeurMaisons = 0, HauteurMaisons = 0;   // the largest of the houses pictured
+    std::vector<PhotoPerso> PhotosPersos;
+    std::vector<PhotoMaison> PhotosMaisons;
+    // Slots whose picture has changed since the house grids were filed.
+    std::vector<int32_t> Revues;
+    std::vector<uint8_t> EstRevue;
+    bool MaisonsClassees = false;
+    int32_t EquipesClassees = 0, FiefsClasses = 0, GenresClasses = 0;
+    int32_t LargeurMaisons = 0, HauteurMaisons = 0;   // the largest of the houses filed
     GrilleIndices ParEquipe, MaisonsParEquipe, MaisonsParGenre, Gisements;
 
+    void Recommencer();
     void Photographier();
-    void Classer();
+    void Noter_Maison(std::size_t k, const PhotoMaison& photo);
+    bool Maisons_A_Reclasser() const;
+    void Classer_Maisons(int32_t largeur, int32_t hauteur);
+    void Classer(int32_t largeur, int32_t hauteur);
 };
 
 Index Idx;
 
-void Index::Photographier() {
+// A world of another size: every group and picture afresh.
+void Index::Recommencer() {
     NombrePersos = Persos.size();
-    NombreRessources = Ressources.size();
     Equipes.Vider();
     FiefsVus.Vider();
     GenresVus.Vider();
-    Photos.resize(NombrePersos);
-    LargeurMaisons = HauteurMaisons = 0;
+    PhotosPersos.resize(NombrePersos);
+    PhotosMaisons.assign(NombrePersos, PhotoMaison{});
+    EstRevue.assign(NombrePersos, 0);
+    Revues.clear();
+    MaisonsClassees = false;
+}
+
+void Index::Photographier() {
+    if (Persos.size() != NombrePersos) Recommencer();
+    NombreRessources = Ressources.size();
     for (std::size_t k = 0; k < NombrePersos; ++k) {
+        if (k + Avance < NombrePersos) Precharger(Persos[k + Avance]);
         const ClsJeuPerso& p = Persos[k];
         const ClsJeuBatiment& m = Maisons[k];
-        Photo& photo = Photos[k];
-        photo = {p.PositionX, p.PositionY, Equipes.Groupe_De(p.Equipe), FiefsVus.Groupe_De(p.Fief),
-                 m.PositionX, m.PositionY, GenresVus.Numero_De(m), m.MaxVie > 0 || m.Vie > 0};
-        if (!photo.Batie) continue;
-        LargeurMaisons = std::max<int32_t>(LargeurMaisons, m.Largeur);
-        HauteurMaisons = std::max<int32_t>(HauteurMaisons, m.Hauteur);
+        PhotosPersos[k] = {p.PositionX, p.PositionY, Equipes.Groupe_De(p.Equipe)};
+        Noter_Maison(k, {m.PositionX, m.PositionY, PhotosPersos[k].Equipe, FiefsVus.Groupe_De(p.Fief),
+                         GenresVus.Numero_De(m), m.Largeur, m.Hauteur, m.MaxVie > 0 || m.Vie > 0});
     }
 }
 
-void Index::Classer() {
-    const int32_t largeur = Monde.Largeur * TailleCase, hauteur = Monde.Hauteur * TailleCase;
+void Index::Noter_Maison(std::size_t k, const PhotoMaison& photo) {
+    if (photo == PhotosMaisons[k]) return;
+    PhotosMaisons[k] = photo;
+    if (!MaisonsClassees || EstRevue[k]) return;
+    EstRevue[k] = 1;
+    Revues.push_back(static_cast<int32_t>(k));
+}
+
+bool Index::Maisons_A_Reclasser() const {
+    return !MaisonsClassees || Revues.size() > SeuilRevues || Equipes.Nombre() != EquipesClassees ||
+           FiefsVus.Nombre() != FiefsClasses || GenresVus.Nombre() != GenresClasses;
+}
+
+void Index::Classer_Maisons(int32_t largeur, int32_t hauteur) {
     const auto n = static_cast<int32_t>(NombrePersos);
     const int32_t genres = GenresVus.Nombre();
-    auto photo = [this](int32_t k) -> const Photo& { return Photos[U(k)]; };
-    ParEquipe.Construire(
-        Equipes.Nombre(), largeur, hauteur, n, [&](int32_t k) { return photo(k).Equipe; },
-        [&](int32_t k) { return EntreeGrille{k, photo(k).X, photo(k).Y}; });
-    auto maison = [&](int32_t k) { return EntreeGrille{k, photo(k).MaisonX, photo(k).MaisonY}; };
+    auto photo = [this](int32_t k) -> const PhotoMaison& { return PhotosMaisons[U(k)]; };
+    auto entree = [&](int32_t k) { return EntreeGrille{k, photo(k).X, photo(k).Y}; };
     MaisonsParEquipe.Construire(
         Equipes.Nombre(), largeur, hauteur, n, [&](int32_t k) { return photo(k).Batie ? photo(k).Equipe : -1; },
-        maison);
+        entree);
     MaisonsParGenre.Construire(
         FiefsVus.Nombre() * genres, 0, 0, n, [&](int32_t k) { return photo(k).Fief * genres + photo(k).Genre; },
-        maison);
+        entree);
+    LargeurMaisons = HauteurMaisons = 0;
+    for (const PhotoMaison& m : PhotosMaisons) {
+        if (!m.Batie) continue;
+        LargeurMaisons = std::max<int32_t>(LargeurMaisons, m.Largeur);
+        HauteurMaisons = std::max<int32_t>(HauteurMaisons, m.Hauteur);
+    }
+    for (int32_t k : Revues) EstRevue[U(k)] = 0;
+    Revues.clear();
+    MaisonsClassees = true;
+    EquipesClassees = Equipes.Nombre();
+    FiefsClasses = FiefsVus.Nombre();
+    GenresClasses = genres;
+}
+
+void Index::Classer(int32_t largeur, int32_t hauteur) {
+    ParEquipe.Construire(
+        Equipes.Nombre(), largeur, hauteur, static_cast<int32_t>(NombrePersos),
+        [this](int32_t k) { return PhotosPersos[U(k)].Equipe; },
+        [this](int32_t k) { return EntreeGrille{k, PhotosPersos[U(k)].X, PhotosPersos[U(k)].Y}; });
+    if (Maisons_A_Reclasser()) Classer_Maisons(largeur, hauteur);
     Gisements.Construire(
         1, largeur, hauteur, static_cast<int32_t>(NombreRessources), [](int32_t) { return 0; },
         [](int32_t k) { return EntreeGrille{k, Ressources[U(k)].PositionX, Ressources[U(k)].PositionY}; });
 }
 
-// The lowest of the houses Creer has rebuilt since the picture, in [debut, fin), for which
-// qualifie(k) holds; fin when none. (A building outside Maisons rebuilt by Creer is no house.)
+// The lowest house slot of [debut, fin) that the grids may show otherwise than it stands
+// (rebuilt by Creer since the picture, or changed since the grids were filed) for which
+// qualifie(k) holds; fin when none. A building outside Maisons rebuilt by Creer is no house.
 template <class Qualifie>
-int32_t Premiere_Maison_Creee(int32_t debut, int32_t fin, Qualifie&& qualifie) {
+int32_t Premiere_Maison_Revue(int32_t debut, int32_t fin, Qualifie&& qualifie) {
     int32_t meilleur = fin;
-    for (int32_t k : MaisonsCreees)
-        if (k >= debut && k < meilleur && U(k) < Maisons.size() && qualifie(k)) meilleur = k;
+    for (const std::vector<int32_t>* liste : {&MaisonsCreees, &Idx.Revues})
+        for (int32_t k : *liste)
+            if (k >= debut && k < meilleur && U(k) < Maisons.size() && qualifie(k)) meilleur = k;
     return meilleur;
 }
 
@@ -184,7 +247,7 @@ TourDeRecherches::TourDeRecherches() {
     Idx.Ouvert = Maisons.size() == Persos.size();
     if (!Idx.Ouvert) return;
     Idx.Photographier();
-    Idx.Classer();
+    Idx.Classer(Monde.Largeur * TailleCase, Monde.Hauteur * TailleCase);
     MaisonsCreees.clear();
 }
 
@@ -213,7 +276,7 @@ int32_t Index_Premier_Maison_Ennemie(const ClsJeuPerso& p, int32_t debut, int32_
         [&](const EntreeGrille& e) {
             return Distance(e.X, e.Y, p.PositionX, p.PositionY) < rayon && qualifie(e.Numero);
         });
-    return Ou_Rien(Premiere_Maison_Creee(debut, k, qualifie), fin);
+    return Ou_Rien(Premiere_Maison_Revue(debut, k, qualifie), fin);
 }
 
 int32_t Index_Premier_Maison(const Course& c, int32_t fief, int32_t x, int32_t y, int32_t debut, int32_t fin,
@@ -230,7 +293,7 @@ int32_t Index_Premier_Maison(const Course& c, int32_t fief, int32_t x, int32_t y
     for (int32_t g = 0; groupeFief >= 0 && g < genres; ++g)
         if (Idx.GenresVus.Convient(g, c))
             meilleur = Idx.MaisonsParGenre.Premier(groupeFief * genres + g, partout, debut, meilleur, proche);
-    return Ou_Rien(Premiere_Maison_Creee(debut, meilleur, qualifie), fin);
+    return Ou_Rien(Premiere_Maison_Revue(debut, meilleur, qualifie), fin);
 }
 
 bool Index_Place_Libre(int32_t i, int32_t x, int32_t y, int32_t largeur, int32_t hauteur) {
@@ -245,7 +308,7 @@ bool Index_Place_Libre(int32_t i, int32_t x, int32_t y, int32_t largeur, int32_t
     auto maison = [&](int32_t k) { return Trouve_Dans(GroupePoint::Maisons, k, o, boite); };
     if (Touche_Dans(Idx.MaisonsParEquipe, GroupePoint::Maisons, o, boite, Idx.LargeurMaisons, Idx.HauteurMaisons,
                     tous) ||
-        Premiere_Maison_Creee(0, SansFin, maison) < SansFin)
+        Premiere_Maison_Revue(0, SansFin, maison) < SansFin)
         return false;
     return !Touche_Dans(Idx.Gisements, GroupePoint::Gisements, o, boite, LargeurGisement, HauteurGisement, tous);
 }

@@ -221,13 +221,20 @@ protected:
         Comparer_Place(autre, m.PositionX + Entre(-60, 60), m.PositionY + Entre(-60, 60));
     }
 
-    // What changes between the ticks: everyone may have walked, a few changed side, a summon
-    // added characters.
+    // What changes between the ticks: everyone may have walked, a few changed side, a fief
+    // joined another team, a house was read from an odd file, a summon added characters.
     void Changer_Entre_Les_Tours() {
+        if (Parfois(0.1)) Changer_D_Equipe(Au_Hasard(Fiefs.size()), Entre(0, 5));
+        if (Parfois(0.1)) M(Au_Hasard(Maisons.size())).Magasin ^= true;
         for (int32_t k = 0; k < static_cast<int32_t>(Persos.size()); ++k)
             if (Parfois(0.5)) Placer(k, P(k).PositionX + Entre(-40, 40), P(k).PositionY + Entre(-40, 40), P(k).Fief);
         if (Parfois(0.3)) Tirer_Perso(Au_Hasard(Persos.size()));
-        if (Parfois(0.3)) Invoquer();
+        if (Parfois(0.1)) Invoquer();
+    }
+    static void Changer_D_Equipe(int32_t f, int32_t equipe) {
+        Fiefs[static_cast<std::size_t>(f)].Equipe = equipe;
+        for (ClsJeuPerso& p : Persos)
+            if (p.Fief == f) p.Equipe = equipe;
     }
     void Invoquer() {
         const auto k = static_cast<int32_t>(Persos.size());
