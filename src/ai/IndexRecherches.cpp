@@ -65,6 +65,7 @@ public:
         return Nombre() - 1;
     }
     int32_t Nombre() const { return static_cast<int32_t>(genres_.size()); }
+    int16_t Type(int32_t g) const { return genres_[U(g)].Type; }
     bool Convient(int32_t g, const Course& c) const {
         const Genre& x = genres_[U(g)];
         return Genre_Convient(c, x.Type, x.Magasin, x.Fabrique, x.Service);
@@ -112,6 +113,11 @@ struct Index {
     int32_t EquipesClassees = 0, FiefsClasses = 0, GenresClasses = 0;
     int32_t LargeurMaisons = 0, HauteurMaisons = 0;   // the largest of the houses filed
     GrilleIndices ParEquipe, MaisonsParEquipe, MaisonsParGenre, Gisements;
+    // House slots of each fief, and of each fief by genre, as pictured; counted at the first
+    // question of a tick.
+    bool Comptes = false;
+    std::vector<int32_t> ParFief, ParFiefGenre;
+    std::vector<uint8_t> Vu;   // scratch of the counts
 
     void Recommencer();
     void Photographier();
@@ -119,6 +125,7 @@ struct Index {
     bool Maisons_A_Reclasser() const;
     void Classer_Maisons(int32_t largeur, int32_t hauteur);
     void Classer(int32_t largeur, int32_t hauteur);
+    void Compter();
 };
 
 Index Idx;
@@ -132,6 +139,7 @@ void Index::Recommencer() {
     PhotosPersos.resize(NombrePersos);
     PhotosMaisons.assign(NombrePersos, PhotoMaison{});
     EstRevue.assign(NombrePersos, 0);
+    Vu.assign(NombrePersos, 0);
     Revues.clear();
     MaisonsClassees = false;
 }
@@ -198,6 +206,18 @@ void Index::Classer(int32_t largeur, int32_t hauteur) {
         [](int32_t k) { return EntreeGrille{k, Ressources[U(k)].PositionX, Ressources[U(k)].PositionY}; });
 }
 
+void Index::Compter() {
+    if (Comptes) return;
+    const int32_t genres = GenresVus.Nombre();
+    ParFief.assign(U(FiefsVus.Nombre()), 0);
+    ParFiefGenre.assign(U(FiefsVus.Nombre() * genres), 0);
+    for (const PhotoMaison& m : PhotosMaisons) {
+        ++ParFief[U(m.Fief)];
+        ++ParFiefGenre[U(m.Fief * genres + m.Genre)];
+    }
+    Comptes = true;
+}
+
 // The lowest house slot of [debut, fin) that the grids may show otherwise than it stands
 // (rebuilt by Creer since the picture, or changed since the grids were filed) for which
 // qualifie(k) holds; fin when none. A building outside Maisons rebuilt by Creer is no house.
@@ -248,6 +268,7 @@ TourDeRecherches::TourDeRecherches() {
     if (!Idx.Ouvert) return;
     Idx.Photographier();
     Idx.Classer(Monde.Largeur * TailleCase, Monde.Hauteur * TailleCase);
+    Idx.Comptes = false;
     MaisonsCreees.clear();
 }
 
@@ -311,4 +332,29 @@ bool Index_Place_Libre(int32_t i, int32_t x, int32_t y, int32_t largeur, int32_t
         Premiere_Maison_Revue(0, SansFin, maison) < SansFin)
         return false;
     return !Touche_Dans(Idx.Gisements, GroupePoint::Gisements, o, boite, LargeurGisement, HauteurGisement, tous);
+}
+
+int32_t Index_Compter_Maisons_Type(int32_t type, int32_t fief) {
+    Idx.Compter();
+    const int32_t groupe = Idx.FiefsVus.Trouver(fief), genres = Idx.GenresVus.Nombre();
+    int32_t n = 0;
+    for (int32_t g = 0; groupe >= 0 && g < genres; ++g)
+        if (Idx.GenresVus.Type(g) == type) n += Idx.ParFiefGenre[U(groupe * genres + g)];
+    // A slot rebuilt since the picture counts as it stands now, once however often rebuilt.
+    for (int32_t k : MaisonsCreees) {
+        if (U(k) >= Maisons.size() || Idx.Vu[U(k)]) continue;
+        Idx.Vu[U(k)] = 1;
+        const PhotoMaison& avant = Idx.PhotosMaisons[U(k)];
+        n -= avant.Fief == groupe && Idx.GenresVus.Type(avant.Genre) == type;
+        n += Persos[U(k)].Fief == fief && Maisons[U(k)].Type == type;
+    }
+    for (int32_t k : MaisonsCreees)
+        if (U(k) < Maisons.size()) Idx.Vu[U(k)] = 0;
+    return n;
+}
+
+int32_t Index_Compter_Maisons_Fief(int32_t fief) {
+    Idx.Compter();
+    const int32_t groupe = Idx.FiefsVus.Trouver(fief);
+    return groupe < 0 ? 0 : Idx.ParFief[U(groupe)];
 }

@@ -1,6 +1,7 @@
 // The searches that look at a whole array in one call: the nearest target of a charge, a
 // deposit, the key command's nearest deposit, and the counts of houses.
 #include "ai/CriteresRecherche.h"
+#include "ai/IndexRecherches.h"
 #include "ai/Recherches.h"
 #include "ai/TablesIA.h"
 #include "ai/TestPoint.h"
@@ -100,9 +101,11 @@ void Aller_Ressource_Proche(int32_t i, int32_t type) {
 
 int32_t Compter_Maisons_Type(int32_t type, int32_t fief) {
     if (type < 0) return 0;
+    if (Index_Ouvert()) return Index_Compter_Maisons_Type(type, fief);
     return Compter_Maisons(fief, [type](int32_t k) { return Maisons[U(k)].Type == type; });
 }
 
 int32_t Compter_Maisons_Fief(int32_t fief) {
+    if (Index_Ouvert()) return Index_Compter_Maisons_Fief(fief);
     return Compter_Maisons(fief, [](int32_t) { return true; });
 }

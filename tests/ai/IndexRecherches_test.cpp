@@ -252,7 +252,7 @@ protected:
         const int32_t i = Au_Hasard(Persos.size());
         const auto u = static_cast<std::size_t>(i);
         int32_t attendu = -2, obtenu = -2;
-        switch (Entre(0, 5)) {
+        switch (Entre(0, 6)) {
             case 0: {
                 regle::Etat e{CurseurPerso[u], RayonPerso[u]};
                 EXPECT_EQ(regle::Ennemi(i, e, attendu), Chercher_Ennemi(i, obtenu));
@@ -272,6 +272,7 @@ protected:
                                 static_cast<int16_t>(Parfois(0.3) ? Entre(-1, Param.NombreRessources) : 0));
                 break;
             case 4: Comparer_Place(i, Place(), Place()); return;
+            case 5: Comparer_Comptes(); return;
             default: Comparer_Emplacement(i, attendu, obtenu); break;
         }
         EXPECT_EQ(attendu, obtenu) << "recherche de " << i;
@@ -292,6 +293,18 @@ protected:
                   Chercher_Maison(i, i, ressource, besoin, service, obtenu));
         EXPECT_EQ(e, (regle::Etat{CurseurMaison[u], RayonMaison[u]}))
             << "course de " << i << " : " << ressource << ' ' << besoin << ' ' << service;
+    }
+    // The counts of a fief's houses, of one type and of all.
+    void Comparer_Comptes() {
+        const auto f = Au_Hasard(Fiefs.size());
+        const auto type = static_cast<int16_t>(Entre(-1, Param.NombreTypeBatiments - 1));
+        int32_t duType = 0, duFief = 0;
+        for (std::size_t k = 0; k < Maisons.size(); ++k) {
+            duFief += Persos[k].Fief == f;
+            duType += Persos[k].Fief == f && Maisons[k].Type == type;
+        }
+        EXPECT_EQ(Compter_Maisons_Type(type, f), type < 0 ? 0 : duType) << "type " << type << " fief " << f;
+        EXPECT_EQ(Compter_Maisons_Fief(f), duFief) << "fief " << f;
     }
     // The test of a free place, for a box of a building's size or a point, about (x, y).
     void Comparer_Place(int32_t i, int32_t x, int32_t y) {
@@ -343,6 +356,18 @@ TEST_F(IndexRecherches, UnTableauQuiGranditPendantLeTourFaitRevenirALaMarcheUnAU
     Invoquer();
     EXPECT_FALSE(Index_Ouvert());
     for (int pas = 0; pas < 200; ++pas) Comparer_Une_Recherche();
+}
+
+TEST_F(IndexRecherches, UneMaisonRebatieDeuxFoisPendantLeTourCompteUneFois) {
+    Creer_Monde(6);
+    const TourDeRecherches ouvert;
+    Batir(2, 1, 100, 100);
+    Batir(2, 2, 300, 100);
+    Batir(3, 2, 500, 100);
+    EXPECT_EQ(Compter_Maisons_Type(1, 0), 0);
+    EXPECT_EQ(Compter_Maisons_Type(2, 0), 2);
+    EXPECT_EQ(Compter_Maisons_Type(0, 0), 4);   // the empty slots keep type 0
+    EXPECT_EQ(Compter_Maisons_Fief(0), 6);
 }
 
 TEST_F(IndexRecherches, LIndexSeFermeALaFinDuTour) {
