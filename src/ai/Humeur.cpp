@@ -24,11 +24,6 @@ void Rebatir(int32_t i) {
     Rentrer_Chez_Soi(i);
 }
 
-void Provoquer(int32_t i, bool (*chercher)(int32_t, int32_t&), void (ClsJeuPerso::*attaquer)(int32_t)) {
-    int32_t cible = -1;
-    if (chercher(i, cible)) (Perso(i).*attaquer)(cible);
-}
-
 // The first of these resources that the bag can take more of: the rule files put the
 // common goods there.
 void Faire_Provisions(int32_t i) {
@@ -51,8 +46,8 @@ void Humeur_Aleatoire(int32_t i) {
         case 3: Rentrer_Chez_Soi(i); break;
         case 4: Aller_Au_Chateau(i); break;
         case 5: Rebatir(i); break;
-        case 6: Provoquer(i, &Chercher_Ennemi, &ClsJeuPerso::Attaquer_Perso); break;
-        case 7: Provoquer(i, &Chercher_Maison_Ennemie, &ClsJeuPerso::Attaquer_Maison); break;
+        case 6: Attaquer_Trouve(i, &Chercher_Ennemi, &ClsJeuPerso::Attaquer_Perso); break;
+        case 7: Attaquer_Trouve(i, &Chercher_Maison_Ennemie, &ClsJeuPerso::Attaquer_Maison); break;
         default: Faire_Provisions(i); break;
     }
 }
