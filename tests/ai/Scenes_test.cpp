@@ -143,4 +143,17 @@ TEST_F(Scene, UnMortRicheVaAuTempleUnMortPauvreAuChateau) {
     }
 }
 
+TEST_F(Scene, UnCapriceDeTempsEnTempsLePlusSouventFaireDesProvisions) {
+    // About one call in 67 is a whim, and 17 whims in 25 stock up (here: wood, nearby).
+    Gisement(Bois);
+    int provisions = 0;
+    for (int n = 0; n < 6700; ++n) {
+        P(0).Arreter();
+        Humeur_Aleatoire(0);
+        provisions += Action(0) == 3;
+    }
+    EXPECT_GT(provisions, 35);
+    EXPECT_LT(provisions, 100);
+}
+
 }  // namespace
