@@ -38,10 +38,6 @@ void Revenir(int32_t i) {
     }
 }
 
-void Attaquer_Si(bool trouve, int32_t cible, void (ClsJeuPerso::*ordre)(int32_t), ClsJeuPerso& p) {
-    if (trouve) (p.*ordre)(cible);
-}
-
 }  // namespace
 
 void Rentrer_Chez_Soi(int32_t i) {
@@ -64,6 +60,11 @@ void Aller_Au_Chateau(int32_t i) {
     Action_A_Faire(i);
 }
 
+void Attaquer_Trouve(int32_t i, bool (*chercher)(int32_t, int32_t&), void (ClsJeuPerso::*attaquer)(int32_t)) {
+    int32_t cible = -1;
+    if (chercher(i, cible)) (Perso(i).*attaquer)(cible);
+}
+
 void Marquer_Action_Faite(int32_t i) { ActionFaite[static_cast<std::size_t>(i)] = 1; }
 
 bool Perso_Pauvre(int32_t i) { return Seuil_Argent(i, 300) > Perso(i).Argent; }
@@ -79,7 +80,6 @@ void Errer(int32_t i) {
 void Occuper_Inactif(int32_t i) {
     ClsJeuPerso& p = Perso(i);
     const float x = Rnd();
-    int32_t cible = -1;
     if (p.IA_Pacifique) {
         if (x < 0.1)
             Revenir(i);
@@ -88,13 +88,13 @@ void Occuper_Inactif(int32_t i) {
         return;
     }
     if (x < 0.05)
-        Attaquer_Si(Chercher_Chateau_Ennemi(i, cible), cible, &ClsJeuPerso::Attaquer_Chateau, p);
+        Attaquer_Trouve(i, &Chercher_Chateau_Ennemi, &ClsJeuPerso::Attaquer_Chateau);
     else if (x < 0.1)
         Revenir(i);
     else if (x < 0.2)
         Errer(i);
     else if (x < 0.4)
-        Attaquer_Si(Chercher_Maison_Ennemie(i, cible), cible, &ClsJeuPerso::Attaquer_Maison, p);
+        Attaquer_Trouve(i, &Chercher_Maison_Ennemie, &ClsJeuPerso::Attaquer_Maison);
     else
-        Attaquer_Si(Chercher_Ennemi(i, cible), cible, &ClsJeuPerso::Attaquer_Perso, p);
+        Attaquer_Trouve(i, &Chercher_Ennemi, &ClsJeuPerso::Attaquer_Perso);
 }

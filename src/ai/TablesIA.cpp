@@ -47,6 +47,9 @@ void Dimensionner_Tables_IA(int32_t nombre) {
 
 void Initialiser_IA() {
     RayonPlacementFief.assign(Fiefs.size(), 0);
+    // A new game's tables start empty, whatever the last game left in them.
+    CurseurIA = 0;
+    Dimensionner_Tables_IA(0);
     Dimensionner_Tables_IA(static_cast<int32_t>(Persos.size()));
     CurseurInventaire = static_cast<int16_t>(Arrondir(Rnd()));
     std::fill(RayonMaison.begin(), RayonMaison.end(), 96);
