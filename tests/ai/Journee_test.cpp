@@ -172,11 +172,14 @@ TEST_F(Journee, UneMaisonQuiNeProduitRienNeRappelleJamaisSonProprietaire) {
     const int16_t matiere = Param.Batiment_TypeMatierePremiere(h.Type);
     p.Definir_Ressources(matiere, 5);   // needs no raw material
     ActionFaite[0] = 1;
+    int auChateau = 0;
     for (int pensee = 0; pensee < 50; ++pensee) {
         p.Definir_Action(0);
         Gerer_Journee(0);
         EXPECT_NE(p.Definir_Action(), 101);
+        auChateau += p.Definir_Action() == 202;
     }
+    EXPECT_LT(auChateau, 25);   // now and then back to the castle by a draw, not every time
     p.Definir_Ressources(0, 1);
     p.Definir_Action(0);
     Gerer_Journee(0);
@@ -215,7 +218,7 @@ TEST_F(Journee, IlAchetePourSonBatimentCeQuiManqueEtQuePersonneNeRecolte) {
     BatimentVoulu[0] = Type("Taverne");   // 8 Bois, 14 Pierre, 16 Planches
     p.Definir_Ressources(planches, 0);
     const double argent = p.Argent;
-    Acheter_Pour_Batiment(0);
+    for (int visite = 0; visite < 5; ++visite) Acheter_Pour_Batiment(0);
     EXPECT_EQ(p.Argent, argent);
 }
 
