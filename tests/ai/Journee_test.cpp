@@ -12,7 +12,7 @@
 
 namespace {
 
-// Four villagers of fief 0 around a standing castle, on the default rules. Their house slots
+// Villagers of fief 0, four unless a test wants more, around a standing castle, on the default rules. Their house slots
 // are empty and keep type 0, the berry hut, as a fresh slot does.
 class Journee : public ReglesParDefaut {
 protected:
@@ -20,12 +20,17 @@ protected:
         ReglesParDefaut::SetUp();
         Monde.Largeur = 200;
         Monde.Hauteur = 200;
-        Peupler(4);
-        EffetsMaisons.assign(4, ClsJeuEffet{});
         Chateaux[0].PositionX = 3000;
         Chateaux[0].PositionY = 3000;
         Initialiser_Chateau(Chateaux[0], Fiefs[0], Param);
-        Dimensionner_Tables_IA(0);   // nothing kept from another world
+        Village(4);
+    }
+
+    // n villagers and fresh AI tables, nothing kept from another world.
+    void Village(int n) {
+        Peupler(n);
+        EffetsMaisons.assign(static_cast<std::size_t>(n), ClsJeuEffet{});
+        Dimensionner_Tables_IA(0);
         Initialiser_IA();
     }
 
@@ -73,6 +78,65 @@ TEST_F(Journee, AuPlusHautNiveauIlNeFormeAucunVoeu) {
     Gerer_Batiment_Perso(0);
     ASSERT_GE(BatimentVoulu[0], 0);
     EXPECT_EQ(Param.Batiment_Niveau(BatimentVoulu[0]), NiveauBatimentMax);
+}
+
+// Alone in its trade in the fief, a sawyer wishing for the next level gets a type of that
+// level. With a second sawmill in the fief, even one not standing, the first lower trade
+// that nobody there has comes first: the other slots hold the berry hut, so the fisher's.
+TEST_F(Journee, SeulDeSonMetierIlMonteADeuxIlPrendDAbordLeMetierInferieurQuiManque) {
+    const int16_t scierie = Type("Scierie");
+    Maison_Finie(0, scierie);
+    for (int essai = 0; essai < 20; ++essai) EXPECT_EQ(Param.Batiment_Niveau(Choisir_Batiment(0, 0, 2)), 2);
+    M(1).Type = scierie;
+    for (int essai = 0; essai < 5; ++essai) EXPECT_EQ(Choisir_Batiment(0, 0, 2), Type("Cabane du pêcheur"));
+}
+
+// A houseless villager whose missing lower trade belongs to a later epoch takes a type of
+// level 0 instead, and the choice ends even though that trade would still be missing if
+// it asked again. Here every type of level 0 is taken, so the missing trade is the first
+// type of level 1.
+TEST_F(Journee, SansMaisonIlNAttendPasUnMetierDUneEpoqueAVenir) {
+    Village(10);
+    const int16_t fonderie = Type("Fonderie"), scierie = Type("Scierie");   // levels 2 and 1
+    M(0).Type = M(1).Type = fonderie;   // fallen, or never built
+    for (int16_t t = 0; t < BatimentsParNiveau[0]; ++t) M(2 + t).Type = t;
+    P(0).Definir_Ressources(Ressource("Bois"), 20);   // it can pay for a sawmill
+    P(0).Definir_Ressources(Ressource("Pierre"), 20);
+    ASSERT_TRUE(P(0).PeutConstruire_Maison(scierie, Param));
+    EXPECT_EQ(Param.Batiment_Niveau(Choisir_Batiment(0, 0, 0)), 0);
+    Fiefs[0].Epoque = 1;   // the sawmill's epoch is reached
+    EXPECT_EQ(Choisir_Batiment(0, 0, 0), scierie);
+}
+
+// The wish is met with its price carried, its epoch reached and a place found, but one
+// sawmill among four villagers is already more than the type's share of the fief: the wish
+// is dropped and the house stays as it was. Without the other sawmill the house is rebuilt.
+TEST_F(Journee, UnTypeTropCourantNEstPasBatiEtLeVoeuEstAbandonne) {
+    const int16_t hutte = Type("Hutte du cueilleur"), scierie = Type("Scierie");
+    const int bois = Ressource("Bois"), pierre = Ressource("Pierre");
+    Fiefs[0].Epoque = 1;
+    ClsJeuBatiment& h = Maison_Finie(0, hutte);
+    ClsJeuPerso& p = Riche(0);
+    auto payer_et_vouloir = [&] {
+        p.Definir_Ressources(bois, Param.Batiment_Prix(scierie, bois));
+        p.Definir_Ressources(pierre, Param.Batiment_Prix(scierie, pierre));
+        BatimentVoulu[0] = scierie;
+    };
+    payer_et_vouloir();
+    M(1).Type = scierie;
+    Gerer_Batiment_Perso(0);
+    EXPECT_EQ(BatimentVoulu[0], -1);
+    EXPECT_EQ(h.Type, hutte);
+    EXPECT_TRUE(h.Termine);
+    EXPECT_EQ(p.Definir_Ressources(bois), Param.Batiment_Prix(scierie, bois));
+
+    M(1).Type = hutte;
+    payer_et_vouloir();
+    Gerer_Batiment_Perso(0);
+    EXPECT_EQ(BatimentVoulu[0], -1);
+    EXPECT_EQ(h.Type, scierie);
+    EXPECT_FALSE(h.Termine);
+    EXPECT_EQ(p.Definir_Action(), 7);   // home, to build it
 }
 
 // --- The day ----------------------------------------------------------------------------
