@@ -1,6 +1,7 @@
 #include "session/Banc.h"
 
 #include <chrono>
+#include <ctime>
 #include <ostream>
 
 #include "session/Simulation.h"
@@ -36,13 +37,22 @@ void Choisir(const CasBanc& cas, ChoixPartie& choix) {
     choix.Armees = {{{0, 0, cas.Sujets}, {1, 2, cas.Sujets}}};
 }
 
-// Seconds taken by the ticks of the case after its warm-up.
-double Mesurer(Simulateur& simulateur, const CasBanc& cas) {
+struct Duree {
+    double Secondes, SecondesCpu;
+};
+
+// The time taken by the ticks of the case after its warm-up: on the clock, and in processor
+// time, which a machine busy with other work does not inflate.
+Duree Mesurer(Simulateur& simulateur, const CasBanc& cas) {
     while (simulateur.Ticks() < cas.Echauffement && !FinPartie) simulateur.Passe();
     const auto debut = std::chrono::steady_clock::now();
+    const std::clock_t debutCpu = std::clock();
     while (simulateur.Ticks() < cas.Echauffement + cas.Ticks && !FinPartie) simulateur.Passe();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - debut).count();
+    return {std::chrono::duration<double>(std::chrono::steady_clock::now() - debut).count(),
+            static_cast<double>(std::clock() - debutCpu) / CLOCKS_PER_SEC};
 }
+
+double Par_Seconde(int64_t ticks, double secondes) { return secondes > 0 ? static_cast<double>(ticks) / secondes : 0.0; }
 
 }  // namespace
 
@@ -52,12 +62,13 @@ bool Executer_Banc(uint64_t graine, std::ostream& sortie) {
         Choisir(cas, choix);
         Simulateur simulateur;
         if (!simulateur.Ouvrir(choix)) return false;
-        const double secondes = Mesurer(simulateur, cas);
+        const Duree duree = Mesurer(simulateur, cas);
         const int64_t ticks = simulateur.Ticks() - cas.Echauffement;
         sortie << "banc=" << cas.Nom << " personnages=" << Persos.size() << " monde=" << cas.Largeur << 'x'
                << cas.Hauteur << " gisements=" << Ressources.size() << " echauffement=" << cas.Echauffement
-               << " ticks=" << ticks << " secondes=" << secondes
-               << " ticks_par_seconde=" << (secondes > 0 ? static_cast<double>(ticks) / secondes : 0.0) << std::endl;
+               << " ticks=" << ticks << " secondes=" << duree.Secondes
+               << " ticks_par_seconde=" << Par_Seconde(ticks, duree.Secondes)
+               << " ticks_par_seconde_cpu=" << Par_Seconde(ticks, duree.SecondesCpu) << std::endl;
     }
     return true;
 }

@@ -10,6 +10,7 @@
 #include <iosfwd>
 
 // Runs every case with seed graine, one line per case:
-// "banc=NOM personnages=N monde=LxH gisements=G echauffement=E ticks=T secondes=S ticks_par_seconde=V".
+// "banc=NOM personnages=N monde=LxH gisements=G echauffement=E ticks=T secondes=S ticks_par_seconde=V
+// ticks_par_seconde_cpu=C", C counting the processor time of the simulator alone.
 // False if a world could not be built.
 bool Executer_Banc(uint64_t graine, std::ostream& sortie);
