@@ -38,8 +38,11 @@ void Revenir(int32_t i) {
     }
 }
 
-void Attaquer_Si(bool trouve, int32_t cible, void (ClsJeuPerso::*ordre)(int32_t), ClsJeuPerso& p) {
-    if (trouve) (p.*ordre)(cible);
+// The search runs first and the order follows at what it found: the target must not be read
+// before the search has written it.
+void Attaquer_Si(int32_t i, bool (*chercher)(int32_t, int32_t&), void (ClsJeuPerso::*ordre)(int32_t)) {
+    int32_t cible = -1;
+    if (chercher(i, cible)) (Perso(i).*ordre)(cible);
 }
 
 }  // namespace
@@ -77,10 +80,8 @@ void Errer(int32_t i) {
 }
 
 void Occuper_Inactif(int32_t i) {
-    ClsJeuPerso& p = Perso(i);
     const float x = Rnd();
-    int32_t cible = -1;
-    if (p.IA_Pacifique) {
+    if (Perso(i).IA_Pacifique) {
         if (x < 0.1)
             Revenir(i);
         else if (x < 0.2)
@@ -88,13 +89,13 @@ void Occuper_Inactif(int32_t i) {
         return;
     }
     if (x < 0.05)
-        Attaquer_Si(Chercher_Chateau_Ennemi(i, cible), cible, &ClsJeuPerso::Attaquer_Chateau, p);
+        Attaquer_Si(i, &Chercher_Chateau_Ennemi, &ClsJeuPerso::Attaquer_Chateau);
     else if (x < 0.1)
         Revenir(i);
     else if (x < 0.2)
         Errer(i);
     else if (x < 0.4)
-        Attaquer_Si(Chercher_Maison_Ennemie(i, cible), cible, &ClsJeuPerso::Attaquer_Maison, p);
+        Attaquer_Si(i, &Chercher_Maison_Ennemie, &ClsJeuPerso::Attaquer_Maison);
     else
-        Attaquer_Si(Chercher_Ennemi(i, cible), cible, &ClsJeuPerso::Attaquer_Perso, p);
+        Attaquer_Si(i, &Chercher_Ennemi, &ClsJeuPerso::Attaquer_Perso);
 }
