@@ -67,6 +67,20 @@ void Initialiser_IA() {
     }
 }
 
+void Reinitialiser_IA() {
+    DernierPerso = -1;
+    PersosParTrame = PasDeRecherche = 1;
+    CurseurIA = 0;
+    CurseurInventaire = NiveauBatimentMax = 0;
+    BatimentsParNiveau.clear();
+    ActionFaite.clear();
+    BatimentVoulu.clear();
+    for (auto* t : {&CurseurPerso, &CurseurMaison, &CurseurMaisonEnnemie, &CurseurChateauEnnemi, &RayonPerso,
+                    &RayonMaison, &RayonMaisonEnnemie, &RayonChateauEnnemi, &RayonRessource, &RayonPlacementFief})
+        t->clear();
+    for (auto* t : {&EtapeRessource, &EtapeObjet, &EtapeQuantite}) t->clear();
+}
+
 void Empreindre_IA(Empreinte& e) {
     for (int32_t x : {DernierPerso, PersosParTrame, PasDeRecherche, CurseurIA}) e.Ajouter(x);
     e.Ajouter(CurseurInventaire);

@@ -30,5 +30,8 @@ void Initialiser_IA();
 // Resizes every per-character table to nombre entries, keeping what they hold (new entries 0),
 // and sets the budgets from the new size.
 void Dimensionner_Tables_IA(int32_t nombre);
+// Back to a fresh process: every table empty, every cursor and budget at its first value. A
+// new game in the same process otherwise inherits the cursors of the last one.
+void Reinitialiser_IA();
 // Hash of the tables, for the simulator's state hash.
 void Empreindre_IA(Empreinte& e);

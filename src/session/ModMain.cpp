@@ -5,6 +5,7 @@
 #include <string>
 #include <system_error>
 
+#include "ai/TablesIA.h"
 #include "presentation/Affichages.h"
 #include "rules/BoiteMessage.h"
 #include "rules/Chemins.h"
@@ -84,6 +85,7 @@ void Demarrer_Programme(PeripheriqueFenetre& fenetre) {
 
 void Reinitialiser_Globales() {
     Reinitialiser_Monde();
+    Reinitialiser_IA();
     Reinitialiser_Affichages();
     Param = ClsJeuParam{};
 }

@@ -17,5 +17,6 @@ bool Trouver_Dossier_Jeu(const std::optional<std::filesystem::path>& donne);
 // loading has come. The random stream is seeded from the clock.
 void Demarrer_Programme(PeripheriqueFenetre& fenetre);
 
-// Puts every global back as a fresh process has it, for tests.
+// Puts every global back as a fresh process has it: for tests, and before each game that the
+// simulator plays in one process.
 void Reinitialiser_Globales();

@@ -9,6 +9,7 @@
 #include "rules/Conversions.h"
 #include "rules/Hasard.h"
 #include "rules/Horloge.h"
+#include "session/ModMain.h"
 #include "session/ScriptOrdres.h"
 #include "world/Globales.h"
 #include "world/ModGenererMonde.h"
@@ -19,6 +20,16 @@ void Creer_Heros_Actif() {
     PersoActif = 0;
     Persos[0].Fief = 0;
     Persos[0].Init(0, Param);
+}
+
+ChoixPartie Preparer_Session(std::optional<uint64_t> graine) {
+    Reinitialiser_Globales();
+    FenetreMuette fenetre;
+    Demarrer_Programme(fenetre);
+    if (graine) Definir_Graine(*graine);
+    ChoixPartie choix = Lire_Ini_Partie();
+    Creer_Heros_Actif();
+    return choix;
 }
 
 Simulateur::Simulateur() : moteur_(Peripheriques{fenetre_, ecran_, souris_, clavier_}) {}

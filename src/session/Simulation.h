@@ -17,6 +17,12 @@ class ScriptOrdres;
 // What the dialog does before a game: the active hero at index 0, a plain human of fief 0.
 void Creer_Heros_Actif();
 
+// A headless game's start from a fresh process state: the program brought up from the game
+// folder already found, the seed given (else the one the clock drew), the active hero created.
+// Returns the choices remembered in "Ini_Partie". Run before every game of one process, it
+// gives each the state that a process of its own would have.
+ChoixPartie Preparer_Session(std::optional<uint64_t> graine);
+
 // A headless game driven pass by pass: the real frame loop over the null devices, the
 // clock moved by hand.
 class Simulateur {
