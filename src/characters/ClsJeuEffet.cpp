@@ -14,7 +14,9 @@ int32_t Centrer(int32_t debut, int32_t boite, int16_t image) {
 
 void ClsJeuEffet::Activer_Effet(int16_t type, int32_t x, int32_t y, int32_t largeur, int32_t hauteur,
                                 const ClsJeuParam& param, bool force) {
-    if (Actif && !force) return;
+    // A blow or an object without an effect names none: nothing plays, and nothing is read
+    // outside the table.
+    if (type < 0 || type >= param.NombreEffets || (Actif && !force)) return;
     Type = type;
     PositionX = Centrer(x, largeur, param.Effet_Largeur(type));
     PositionY = Centrer(y, hauteur, param.Effet_Hauteur(type));

@@ -21,7 +21,8 @@ public:
     bool Actif = false;
 
     // Starts effect `type` centred on the box (x, y, largeur, hauteur). A playing slot is
-    // left alone unless `force`, which restarts it. `type` must be a row of the table.
+    // left alone unless `force`, which restarts it. A type outside the table (a negative one
+    // stands for no effect) changes nothing.
     void Activer_Effet(int16_t type, int32_t x, int32_t y, int32_t largeur, int32_t hauteur,
                        const ClsJeuParam& param, bool force);
 

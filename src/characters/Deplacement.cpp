@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "characters/ClsJeuPerso.h"
+#include "characters/Coup.h"
 #include "characters/Ordres.h"
 #include "rules/ClsJeuParam.h"
 #include "rules/Conversions.h"
@@ -309,8 +310,7 @@ void ClsJeuPerso::Deplacement(CiblesDeplacement& cibles, int32_t& commentaire, c
     Calculer_Longueur_Pas();
     if (EnCombat()) Viser(*this, cibles, commentaire, param);
     if (A_Portee(*this, cibles, param)) {
-        // In reach, the fighter stands; the blow of the tick (ready, afford the equipment,
-        // strike, pay) joins here.
+        Porter_Coup(*this, cibles, commentaire, param);   // in reach, the fighter stands
         if (!Volant) Direction = 0;
     } else if (DureeImmobilisation > 0) {
         DureeImmobilisation -= 1;

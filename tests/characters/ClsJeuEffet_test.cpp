@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <tuple>
 #include <vector>
 
 #include "characters/ClsJeuEffet.h"
@@ -60,6 +61,12 @@ TEST_F(Effet_Test, ActiverCentreLAnimationQuiSuitSesEtapesEtNInterromptQueSiForc
     EXPECT_EQ(Jouer().size(), 12u);
     effet.Activer_Effet(0, 0, 0, 10, 10, param, false);   // once idle, no need to force
     EXPECT_EQ(effet.Type, 0);
+
+    // No effect (a negative type) or a type past the table, even forced: the slot plays on.
+    for (int16_t type : {int16_t{-1}, param.NombreEffets}) {
+        effet.Activer_Effet(type, 50, 50, 10, 10, param, true);
+        EXPECT_EQ(std::tuple(effet.Type, effet.PositionX, effet.Actif), std::tuple(0, -11, true)) << type;
+    }
 }
 
 TEST_F(Effet_Test, LEmpreinteCouvreChaqueChamp) {

@@ -21,10 +21,12 @@ protected:
         Chateaux.assign(1, ClsJeuBatiment{});
     }
 
-    // n fresh humans of fief 0, with their house slots.
+    // n fresh humans of fief 0, with their house slots and effect slots.
     void Peupler(int n) {
         Persos.assign(static_cast<std::size_t>(n), ClsJeuPerso{});
         Maisons.assign(static_cast<std::size_t>(n), ClsJeuBatiment{});
+        EffetsPersos.assign(static_cast<std::size_t>(n), ClsJeuEffet{});
+        EffetsMaisons.assign(static_cast<std::size_t>(n), ClsJeuEffet{});
         for (int i = 0; i < n; ++i) {
             Persos[static_cast<std::size_t>(i)].Init(i, Param);
             Maisons[static_cast<std::size_t>(i)].Numero = i;
