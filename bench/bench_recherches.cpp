@@ -1,4 +1,4 @@
-// One call of each main search in worlds of 1 000, 10 000 and 50 000 characters, walked one
+// One call of each main search, and of the charge's full scan, in worlds of 1 000, 10 000 and 50 000 characters, walked one
 // candidate at a time (second argument 0) and through the index of a tick (1); and the
 // picture the index takes at the start of a tick.
 //
@@ -92,6 +92,11 @@ bool Objets(int32_t i) {
     int32_t r;
     return Chercher_Maison(i, i, 0, 5, 0, r);
 }
+// The charge of a berserker or of a script's attack: a scan of every character.
+bool Charge(int32_t i) {
+    Attaquer_Perso_Proche(i);
+    return Persos[static_cast<std::size_t>(i)].Definir_Action() == 300;
+}
 bool Emplacement(int32_t i) {
     int32_t x, y;
     return Chercher_Emplacement(i, x, y, static_cast<int16_t>(i % Param.NombreTypeBatiments));
@@ -113,5 +118,6 @@ BENCHMARK_CAPTURE(Mesurer, ennemi, Ennemi)->ArgsProduct(Tailles)->Unit(benchmark
 BENCHMARK_CAPTURE(Mesurer, maison_ennemie, Maison_Ennemie)->ArgsProduct(Tailles)->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(Mesurer, maison_magie, Magie)->ArgsProduct(Tailles)->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(Mesurer, maison_objets, Objets)->ArgsProduct(Tailles)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Mesurer, charge, Charge)->ArgsProduct(Tailles)->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(Mesurer, emplacement, Emplacement)->ArgsProduct(Tailles)->Unit(benchmark::kMicrosecond);
 BENCHMARK(Photographier)->Arg(1000)->Arg(10000)->Arg(50000)->Unit(benchmark::kMicrosecond);

@@ -9,6 +9,7 @@
 #include "ai/GrilleIndices.h"
 #include "ai/TestPoint.h"
 #include "rules/ClsJeuParam.h"
+#include "rules/Conversions.h"
 #include "world/Globales.h"
 
 namespace {
@@ -261,6 +262,65 @@ bool Touche_Dans(const GrilleIndices& grille, GroupePoint g, const Observateur& 
     return k < SansFin;
 }
 
+// Calls visiter(k, x, y) for every thing k of the grid of another team than p's filed within
+// rayon each way of p, (x, y) being its place as filed; and, with directs, for every house to
+// be looked at directly, at its place now.
+template <class Visiter>
+void Visiter_Autour(const ClsJeuPerso& p, const GrilleIndices& grille, bool directs, int64_t rayon,
+                    Visiter&& visiter) {
+    const GrilleIndices::Zone zone = grille.Zone_De(p.PositionX - rayon, p.PositionX + rayon, p.PositionY - rayon,
+                                                    p.PositionY + rayon);
+    for (int32_t g = 0; g < grille.Groupes(); ++g) {
+        if (Idx.Equipes[g] == p.Equipe) continue;
+        grille.Pour_Chaque(g, zone, [&](const EntreeGrille& e) {
+            if (std::llabs(static_cast<int64_t>(e.X) - p.PositionX) <= rayon &&
+                std::llabs(static_cast<int64_t>(e.Y) - p.PositionY) <= rayon)
+                visiter(e.Numero, e.X, e.Y);
+        });
+    }
+    if (!directs) return;
+    for (const std::vector<int32_t>* liste : {&MaisonsCreees, &Idx.Revues})
+        for (int32_t k : *liste)
+            if (U(k) < Maisons.size()) visiter(k, Maisons[U(k)].PositionX, Maisons[U(k)].PositionY);
+}
+
+// The target of the full scan of the charges, from the index. The scan keeps each new best
+// distance rounded, so a later target has to be nearer than that: it ends, among the targets
+// whose rounded distance is the least (m), on the first in index order, or on the last of
+// the later ones nearer than m itself. Those lie within m + 1 of p, and m is found by
+// looking ever wider until the nearest target seen lies within the zone looked at. A place
+// as filed only spares reading a record; what counts is read from the record (a house filed
+// elsewhere than it stands is also among those looked at directly).
+template <class Tableau>
+int32_t Cible_La_Plus_Proche(const ClsJeuPerso& p, const Tableau& tableau, const GrilleIndices& grille, bool directs,
+                             bool (*ennemi)(const ClsJeuPerso&, int32_t)) {
+    const int32_t borne = (Monde.Largeur + Monde.Hauteur) * TailleCase;   // no target as far
+    auto distance = [&](int32_t k) {
+        return Distance(tableau[U(k)].PositionX, tableau[U(k)].PositionY, p.PositionX, p.PositionY);
+    };
+    double moindre = std::numeric_limits<double>::infinity();
+    auto plus_pres = [&](int32_t k, int32_t x, int32_t y) {
+        if (Distance(x, y, p.PositionX, p.PositionY) >= moindre || !ennemi(p, k)) return;
+        const double d = distance(k);
+        if (d < borne) moindre = std::min(moindre, d);
+    };
+    for (int64_t rayon = GrilleIndices::TailleCarre;; rayon *= 2) {
+        Visiter_Autour(p, grille, directs, rayon, plus_pres);
+        if (moindre <= static_cast<double>(rayon) || rayon >= borne) break;
+    }
+    if (moindre == std::numeric_limits<double>::infinity()) return -1;
+    const auto m = Arrondir_En<int32_t>(moindre);
+    int32_t premier = SansFin, dernier = -1;
+    Visiter_Autour(p, grille, directs, int64_t{m} + 1, [&](int32_t k, int32_t x, int32_t y) {
+        if (Distance(x, y, p.PositionX, p.PositionY) > m + 0.5 || !ennemi(p, k)) return;
+        const double d = distance(k);
+        if (d >= borne || Arrondir_En<int32_t>(d) != m) return;
+        premier = std::min(premier, k);
+        if (d < m) dernier = std::max(dernier, k);
+    });
+    return dernier > premier ? dernier : premier;
+}
+
 }  // namespace
 
 TourDeRecherches::TourDeRecherches() {
@@ -357,4 +417,12 @@ int32_t Index_Compter_Maisons_Fief(int32_t fief) {
     Idx.Compter();
     const int32_t groupe = Idx.FiefsVus.Trouver(fief);
     return groupe < 0 ? 0 : Idx.ParFief[U(groupe)];
+}
+
+int32_t Index_Ennemi_Le_Plus_Proche(const ClsJeuPerso& p) {
+    return Cible_La_Plus_Proche(p, Persos, Idx.ParEquipe, false, Perso_Ennemi);
+}
+
+int32_t Index_Maison_Ennemie_La_Plus_Proche(const ClsJeuPerso& p) {
+    return Cible_La_Plus_Proche(p, Maisons, Idx.MaisonsParEquipe, true, Maison_Ennemie);
 }
