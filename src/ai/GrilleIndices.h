@@ -67,6 +67,7 @@ void GrilleIndices::Construire(int32_t groupes, int32_t largeur, int32_t hauteur
     debuts_.assign(Cle(groupes_, 0, 0) + 1, 0);
     tampon_.resize(static_cast<std::size_t>(n));
     cles_.resize(static_cast<std::size_t>(n));
+    entrees_.reserve(static_cast<std::size_t>(n));
     std::size_t nombre = 0;
     for (int32_t k = 0; k < n; ++k) {
         const auto u = static_cast<std::size_t>(k);
