@@ -1,6 +1,7 @@
-// One call of each main search in worlds of 1 000, 10 000 and 50 000 characters, walked one
-// candidate at a time (second argument 0) and through the index of a tick (1); and the
-// picture the index takes at the start of a tick.
+// One call of each main search, and of the charge's full scan, in worlds of 1 000, 10 000
+// and 50 000 characters, walked one candidate at a time (second argument 0) and through the
+// index of a tick (1); the searches of a whole tick; and the picture the index takes at the
+// start of a tick.
 //
 // The world is the simulator's: a map of 400 × 300 tiles, four fiefs of four teams in its
 // quarters, everyone about its castle, two houses in three standing, finished and stocked.
@@ -92,9 +93,36 @@ bool Objets(int32_t i) {
     int32_t r;
     return Chercher_Maison(i, i, 0, 5, 0, r);
 }
+// The charge of a berserker or of a script's attack: a scan of every character.
+bool Charge(int32_t i) {
+    Attaquer_Perso_Proche(i);
+    return Persos[static_cast<std::size_t>(i)].Definir_Action() == 300;
+}
 bool Emplacement(int32_t i) {
     int32_t x, y;
     return Chercher_Emplacement(i, x, y, static_cast<int16_t>(i % Param.NombreTypeBatiments));
+}
+
+// The searches of one tick: PersosParTrame + 1 thinkers in turn, each looking for food for
+// magic and morale and for objects, for an enemy, and one in five for an enemy house; with
+// the index, its picture is taken at the start of each tick.
+void Tour(benchmark::State& etat) {
+    const auto n = static_cast<int32_t>(etat.range(0));
+    Construire(n);
+    int32_t i = 0;
+    for (auto _ : etat) {
+        std::optional<TourDeRecherches> tour;
+        if (etat.range(1) != 0) tour.emplace();
+        for (int32_t pensee = 0; pensee <= PersosParTrame; ++pensee) {
+            i = (i + 1) % n;
+            int32_t r;
+            Chercher_Maison(i, i, 0, 3, 0, r);
+            Chercher_Maison(i, i, 0, 4, 0, r);
+            Chercher_Maison(i, i, 0, 5, 0, r);
+            Chercher_Ennemi(i, r);
+            if (pensee % 5 == 0) Chercher_Maison_Ennemie(i, r);
+        }
+    }
 }
 
 void Photographier(benchmark::State& etat) {
@@ -113,5 +141,7 @@ BENCHMARK_CAPTURE(Mesurer, ennemi, Ennemi)->ArgsProduct(Tailles)->Unit(benchmark
 BENCHMARK_CAPTURE(Mesurer, maison_ennemie, Maison_Ennemie)->ArgsProduct(Tailles)->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(Mesurer, maison_magie, Magie)->ArgsProduct(Tailles)->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(Mesurer, maison_objets, Objets)->ArgsProduct(Tailles)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Mesurer, charge, Charge)->ArgsProduct(Tailles)->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(Mesurer, emplacement, Emplacement)->ArgsProduct(Tailles)->Unit(benchmark::kMicrosecond);
+BENCHMARK(Tour)->ArgsProduct(Tailles)->Unit(benchmark::kMillisecond);
 BENCHMARK(Photographier)->Arg(1000)->Arg(10000)->Arg(50000)->Unit(benchmark::kMicrosecond);

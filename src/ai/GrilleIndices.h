@@ -37,6 +37,10 @@ public:
     template <class Qualifie>
     int32_t Premier(int32_t g, const Zone& z, int32_t debut, int32_t fin, Qualifie&& qualifie) const;
 
+    // Calls visiter(entree) for every entry of group g within the zone.
+    template <class Visiter>
+    void Pour_Chaque(int32_t g, const Zone& z, Visiter&& visiter) const;
+
     int32_t Groupes() const { return groupes_; }
 
 private:
@@ -63,6 +67,7 @@ void GrilleIndices::Construire(int32_t groupes, int32_t largeur, int32_t hauteur
     debuts_.assign(Cle(groupes_, 0, 0) + 1, 0);
     tampon_.resize(static_cast<std::size_t>(n));
     cles_.resize(static_cast<std::size_t>(n));
+    entrees_.reserve(static_cast<std::size_t>(n));
     std::size_t nombre = 0;
     for (int32_t k = 0; k < n; ++k) {
         const auto u = static_cast<std::size_t>(k);
@@ -104,4 +109,13 @@ int32_t GrilleIndices::Premier(int32_t g, const Zone& z, int32_t debut, int32_t 
                 }
         }
     return meilleur;
+}
+
+template <class Visiter>
+void GrilleIndices::Pour_Chaque(int32_t g, const Zone& z, Visiter&& visiter) const {
+    for (int32_t ligne = z.Ligne0; ligne <= z.Ligne1; ++ligne)
+        for (int32_t colonne = z.Colonne0; colonne <= z.Colonne1; ++colonne) {
+            const std::size_t cle = Cle(g, colonne, ligne);
+            for (int32_t e = debuts_[cle]; e < debuts_[cle + 1]; ++e) visiter(entrees_[static_cast<std::size_t>(e)]);
+        }
 }

@@ -33,13 +33,18 @@ int32_t Le_Plus_Proche(const Tableau& tableau, int32_t x, int32_t y, Candidat&& 
     return indice;
 }
 
-// The charge of character i at the nearest enemy target of the array, if there is one.
+using Indexe = int32_t (*)(const ClsJeuPerso&);
+
+// The charge of character i at the nearest enemy target of the array, if there is one; the
+// index finds it while it is open, if it knows the array.
 template <class Tableau>
 void Charger_Au_Plus_Proche(int32_t i, const Tableau& tableau, bool (*ennemi)(const ClsJeuPerso&, int32_t),
-                            void (ClsJeuPerso::*ordre)(int32_t)) {
+                            Indexe indexe, void (ClsJeuPerso::*ordre)(int32_t)) {
     ClsJeuPerso& p = Persos[U(i)];
     const int32_t cible =
-        Le_Plus_Proche(tableau, p.PositionX, p.PositionY, [&p, ennemi](int32_t k) { return ennemi(p, k); });
+        indexe != nullptr && Index_Ouvert()
+            ? indexe(p)
+            : Le_Plus_Proche(tableau, p.PositionX, p.PositionY, [&p, ennemi](int32_t k) { return ennemi(p, k); });
     if (cible >= 0) (p.*ordre)(cible);
 }
 
@@ -56,15 +61,16 @@ int32_t Compter_Maisons(int32_t fief, Compte&& compte) {
 
 // With relayer the charge is meant for the followers too; they join it once leaders give orders.
 void Attaquer_Perso_Proche(int32_t i, bool, bool, bool, bool) {
-    Charger_Au_Plus_Proche(i, Persos, Perso_Ennemi, &ClsJeuPerso::Attaquer_Perso);
+    Charger_Au_Plus_Proche(i, Persos, Perso_Ennemi, Index_Ennemi_Le_Plus_Proche, &ClsJeuPerso::Attaquer_Perso);
 }
 
 void Attaquer_Chateau_Proche(int32_t i, bool, bool, bool, bool) {
-    Charger_Au_Plus_Proche(i, Chateaux, Chateau_Ennemi, &ClsJeuPerso::Attaquer_Chateau);
+    Charger_Au_Plus_Proche(i, Chateaux, Chateau_Ennemi, nullptr, &ClsJeuPerso::Attaquer_Chateau);
 }
 
 void Attaquer_Maison_Proche(int32_t i, bool, bool, bool, bool) {
-    Charger_Au_Plus_Proche(i, Maisons, Maison_Ennemie, &ClsJeuPerso::Attaquer_Maison);
+    Charger_Au_Plus_Proche(i, Maisons, Maison_Ennemie, Index_Maison_Ennemie_La_Plus_Proche,
+                           &ClsJeuPerso::Attaquer_Maison);
 }
 
 bool Chercher_Ressource(int32_t perso, int32_t i, int32_t type, int32_t& resultat) {

@@ -111,6 +111,21 @@ bool Maison(int32_t i, int16_t ressource, int16_t besoin, int16_t service, Etat&
     return trouve;
 }
 
+// The charge's full scan: each new best distance kept rounded.
+template <class Tableau, class Candidat>
+int32_t Plus_Proche(const Tableau& tableau, const ClsJeuPerso& p, Candidat candidat) {
+    int32_t meilleure = (Monde.Largeur + Monde.Hauteur) * 16, indice = -1;
+    for (int32_t k = 0; k < static_cast<int32_t>(tableau.size()); ++k) {
+        const auto& c = tableau[static_cast<std::size_t>(k)];
+        const double d = Dist(c.PositionX, c.PositionY, p.PositionX, p.PositionY);
+        if (candidat(k) && d < meilleure) {
+            meilleure = Arrondir_En<int32_t>(d);
+            indice = k;
+        }
+    }
+    return indice;
+}
+
 int32_t Tirer(int32_t debut, int32_t taille, int32_t cases, int32_t batiment, int32_t anneau) {
     int32_t v = Arrondir_En<int32_t>(Rnd() * (taille + 2.0 * anneau) + debut - anneau);
     if (v < 0) v = Arrondir_En<int32_t>(Rnd() * 16.0);
@@ -252,7 +267,7 @@ protected:
         const int32_t i = Au_Hasard(Persos.size());
         const auto u = static_cast<std::size_t>(i);
         int32_t attendu = -2, obtenu = -2;
-        switch (Entre(0, 6)) {
+        switch (Entre(0, 7)) {
             case 0: {
                 regle::Etat e{CurseurPerso[u], RayonPerso[u]};
                 EXPECT_EQ(regle::Ennemi(i, e, attendu), Chercher_Ennemi(i, obtenu));
@@ -273,6 +288,7 @@ protected:
                 break;
             case 4: Comparer_Place(i, Place(), Place()); return;
             case 5: Comparer_Comptes(); return;
+            case 6: Comparer_Charges(i); return;
             default: Comparer_Emplacement(i, attendu, obtenu); break;
         }
         EXPECT_EQ(attendu, obtenu) << "recherche de " << i;
@@ -293,6 +309,21 @@ protected:
                   Chercher_Maison(i, i, ressource, besoin, service, obtenu));
         EXPECT_EQ(e, (regle::Etat{CurseurMaison[u], RayonMaison[u]}))
             << "course de " << i << " : " << ressource << ' ' << besoin << ' ' << service;
+    }
+    // The charges at the nearest enemy and the nearest enemy house.
+    void Comparer_Charges(int32_t i) {
+        ClsJeuPerso& p = P(i);
+        const int32_t ennemi = regle::Plus_Proche(Persos, p, [&p](int32_t k) {
+            return P(k).Equipe != p.Equipe && P(k).Vivant() && P(k).Visible();
+        });
+        const int32_t maison = regle::Plus_Proche(Maisons, p, [&p](int32_t k) {
+            return P(k).Equipe != p.Equipe && M(k).Vie > 0;
+        });
+        p.PersoCible = p.MaisonCible = -7;
+        Attaquer_Perso_Proche(i);
+        EXPECT_EQ(p.PersoCible, ennemi < 0 ? -7 : ennemi) << "charge de " << i;
+        Attaquer_Maison_Proche(i);
+        EXPECT_EQ(p.MaisonCible, maison < 0 ? -7 : maison) << "charge de " << i;
     }
     // The counts of a fief's houses, of one type and of all.
     void Comparer_Comptes() {
