@@ -22,8 +22,8 @@ struct CasBanc {
 // ends: 2 × 5,000 soldiers reach x = 13,640 m and y = 1,280 m.
 constexpr CasBanc Cas[] = {
     {"monde_1000", PageNouveauMonde, 250, 400, 300, 1000, 500, 2000},
-    {"monde_10000", PageNouveauMonde, 2500, 1200, 1000, 10000, 200, 500},
-    {"monde_50000", PageNouveauMonde, 12500, 2700, 2200, 50000, 100, 200},
+    {"monde_10000", PageNouveauMonde, 2500, 1200, 1000, 10000, 200, 300},
+    {"monde_50000", PageNouveauMonde, 12500, 2700, 2200, 50000, 50, 100},
     {"bataille_10000", PageNouvelleBataille, 5000, 900, 120, 100, 200, 500},
 };
 
