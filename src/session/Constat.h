@@ -1,6 +1,6 @@
 // The checks that the invariants of a live world are made of. A Constat keeps the first fault
 // it is told of, as a text that names the record and its field; it builds that text only then.
-// A value that is not a number fails every bound.
+// A value that is not a number fails every bound, and an amount must be finite.
 #pragma once
 
 #include <algorithm>
@@ -52,7 +52,10 @@ public:
     void Entre(const Champ& c, double v, double bas, double haut) {
         Exiger(Au_Moins(v, bas) && Au_Plus(v, haut), c, " = ", v, " hors de [", bas, ", ", haut, "]");
     }
-    void Positif(const Champ& c, double v) { Exiger(Au_Moins(v, 0), c, " = ", v, " est négatif"); }
+    void Positif(const Champ& c, double v) {
+        Exiger(std::isfinite(v), c, " = ", v, " n'est pas un nombre fini");
+        Exiger(Au_Moins(v, 0), c, " = ", v, " est négatif");
+    }
     // An index into an array of taille entries, or -1 when aucun allows none.
     void Indice(const Champ& c, int64_t v, std::string_view tableau, std::size_t taille, bool aucun = false) {
         Exiger((aucun && v == -1) || (v >= 0 && static_cast<std::size_t>(v) < taille), c, " = ", v,

@@ -44,6 +44,9 @@ TEST_F(Invariants, UnStockNegatif) {
     Maisons[3].Stock = 0;
     Fiefs[1].Ressources[2] = -0.5;
     EXPECT_EQ(Faute(), "Fiefs[1].Ressources[2] = -0.5 est négatif");
+    Fiefs[1].Ressources[2] = 0;
+    Persos[1].Argent = std::numeric_limits<double>::infinity();
+    EXPECT_EQ(Faute(), "Persos[1].Argent = inf n'est pas un nombre fini");
 }
 
 TEST_F(Invariants, UneJaugeAuDessusDeSonMaximum) {
