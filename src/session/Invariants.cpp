@@ -12,27 +12,45 @@
 namespace {
 
 template <class T>
-void Meme_Taille(Constat& c, std::string_view nom, const std::vector<T>& tableau, std::string_view reference,
-                 std::size_t n) {
-    c.Taille(nom, tableau.size(), reference, n);
+struct TableNommee {
+    std::string_view Nom;
+    const std::vector<T>* Table;
+};
+
+template <class T, std::size_t N>
+void Memes_Tailles(Constat& c, const TableNommee<T> (&tables)[N], std::string_view reference, std::size_t n) {
+    for (const TableNommee<T>& t : tables) c.Taille(t.Nom, t.Table->size(), reference, n);
 }
 
 // Character i owns house slot i, effect slot i and entry i of every table of the AI; fief f
 // owns castle f and entry f of the AI's placement radii.
 void Verifier_Tailles(Constat& c) {
     const std::size_t n = Persos.size(), f = Fiefs.size();
-    Meme_Taille(c, "Maisons", Maisons, "Persos", n);
-    Meme_Taille(c, "EffetsPersos", EffetsPersos, "Persos", n);
-    Meme_Taille(c, "EffetsMaisons", EffetsMaisons, "Persos", n);
-    Meme_Taille(c, "ActionFaite", ActionFaite, "Persos", n);
-    Meme_Taille(c, "BatimentVoulu", BatimentVoulu, "Persos", n);
-    for (const auto* t : {&CurseurPerso, &CurseurMaison, &CurseurMaisonEnnemie, &CurseurChateauEnnemi, &RayonPerso,
-                          &RayonMaison, &RayonMaisonEnnemie, &RayonChateauEnnemi, &RayonRessource})
-        Meme_Taille(c, "une table de l'IA (curseurs et rayons)", *t, "Persos", n);
-    for (const auto* t : {&EtapeRessource, &EtapeObjet, &EtapeQuantite})
-        Meme_Taille(c, "une table de l'IA (étapes des scripts)", *t, "Persos", n);
-    Meme_Taille(c, "Chateaux", Chateaux, "Fiefs", f);
-    Meme_Taille(c, "RayonPlacementFief", RayonPlacementFief, "Fiefs", f);
+    c.Taille("Maisons", Maisons.size(), "Persos", n);
+    c.Taille("EffetsPersos", EffetsPersos.size(), "Persos", n);
+    c.Taille("EffetsMaisons", EffetsMaisons.size(), "Persos", n);
+    c.Taille("ActionFaite", ActionFaite.size(), "Persos", n);
+    const TableNommee<int32_t> curseurs[] = {
+        {"CurseurPerso", &CurseurPerso},
+        {"CurseurMaison", &CurseurMaison},
+        {"CurseurMaisonEnnemie", &CurseurMaisonEnnemie},
+        {"CurseurChateauEnnemi", &CurseurChateauEnnemi},
+        {"RayonPerso", &RayonPerso},
+        {"RayonMaison", &RayonMaison},
+        {"RayonMaisonEnnemie", &RayonMaisonEnnemie},
+        {"RayonChateauEnnemi", &RayonChateauEnnemi},
+        {"RayonRessource", &RayonRessource},
+    };
+    const TableNommee<int16_t> etapes[] = {
+        {"BatimentVoulu", &BatimentVoulu},
+        {"EtapeRessource", &EtapeRessource},
+        {"EtapeObjet", &EtapeObjet},
+        {"EtapeQuantite", &EtapeQuantite},
+    };
+    Memes_Tailles(c, curseurs, "Persos", n);
+    Memes_Tailles(c, etapes, "Persos", n);
+    c.Taille("Chateaux", Chateaux.size(), "Fiefs", f);
+    c.Taille("RayonPlacementFief", RayonPlacementFief.size(), "Fiefs", f);
     c.Exiger(DernierPerso == static_cast<int64_t>(n) - 1, "DernierPerso = ", DernierPerso, " pour ", n,
              " personnages");
     c.Exiger(PersoActif >= 0 && static_cast<std::size_t>(PersoActif) < n, "PersoActif = ", PersoActif,
