@@ -17,7 +17,7 @@ namespace {
 #ifdef KORVALIS_SANITIZE
 // The sanitizers make a game many times slower: shorter games, the battle still long enough for
 // the armies, 1,000 m apart, to meet.
-constexpr int64_t TicksMonde = 2000, TicksBataille = 800;
+constexpr int64_t TicksMonde = 5000, TicksBataille = 1500;
 #else
 constexpr int64_t TicksMonde = 20000, TicksBataille = 3000;
 #endif
