@@ -2,6 +2,7 @@
 // monsters follow their chief or live from their lair, villagers run their day.
 #include "ai/ModIA.h"
 
+#include "ai/IndexRecherches.h"
 #include "ai/Journee.h"
 #include "ai/OrdresIA.h"
 #include "ai/Recherches.h"
@@ -106,6 +107,8 @@ void Penser_Villageois(int32_t i) {
 
 void Executer_IA() {
     if (DernierPerso < 0) return;
+    // The searches of this tick's thoughts go through an index of the world as it stands now.
+    const TourDeRecherches tour;
     for (int32_t n = 0; n <= PersosParTrame; ++n) {
         if (++CurseurIA > DernierPerso) CurseurIA = 0;
         Penser_Perso(CurseurIA);
