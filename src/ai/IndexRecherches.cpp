@@ -216,6 +216,16 @@ int32_t Index_Compter_Maisons_Fief(int32_t fief) {
     return groupe < 0 ? 0 : PhotoIndex.ParFief[U(groupe)];
 }
 
+int32_t Index_Premier_Gisement(int32_t type, int32_t x, int32_t y, int32_t rayon) {
+    const GrilleIndices& grille = PhotoIndex.GisementsParType;
+    const auto fin = static_cast<int32_t>(PhotoIndex.NombreRessources);
+    if (type >= grille.Groupes()) return -1;
+    const int32_t k = grille.Premier(type, Autour(grille, x, y, rayon), 0, fin, [&](const EntreeGrille& e) {
+        return rayon >= Distance(e.X, e.Y, x, y);
+    });
+    return Ou_Rien(k, fin);
+}
+
 int32_t Index_Ennemi_Le_Plus_Proche(const ClsJeuPerso& p) {
     return Cible_La_Plus_Proche(p, Persos, PhotoIndex.ParEquipe, false, Perso_Ennemi);
 }

@@ -40,6 +40,9 @@ int32_t Index_Premier_Maison(const Course& c, int32_t fief, int32_t x, int32_t y
 // Tester_Point(i, x, y, largeur, hauteur) gives 0.
 bool Index_Place_Libre(int32_t i, int32_t x, int32_t y, int32_t largeur, int32_t hauteur);
 // The targets of Attaquer_Perso_Proche and Attaquer_Maison_Proche; -1 when none.
+// The first deposit in index order giving resource type (0 or more) whose place lies within
+// rayon of (x, y); -1 when none.
+int32_t Index_Premier_Gisement(int32_t type, int32_t x, int32_t y, int32_t rayon);
 int32_t Index_Ennemi_Le_Plus_Proche(const ClsJeuPerso& p);
 int32_t Index_Maison_Ennemie_La_Plus_Proche(const ClsJeuPerso& p);
 // Compter_Maisons_Type (for a type of 0 or more) and Compter_Maisons_Fief.

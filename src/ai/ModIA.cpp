@@ -138,6 +138,7 @@ void Riposter(int32_t i) {
     ClsJeuPerso& p = Perso(i);
     const int16_t action = p.Definir_Action();
     if (action != 301 && action != 302) return;
+    if (p.PersoCible < 0 || p.PersoCible > DernierPerso) return;
     const ClsJeuPerso& cible = Perso(p.PersoCible);
     if (!cible.Attaquable() || cible.Equipe == p.Equipe) return;
     p.Attaquer_Perso(p.PersoCible);

@@ -104,6 +104,12 @@ void PhotoRecherches::Classer(int32_t largeur, int32_t hauteur) {
     Gisements.Construire(
         1, largeur, hauteur, static_cast<int32_t>(NombreRessources), [](int32_t) { return 0; },
         [](int32_t k) { return EntreeGrille{k, Ressources[U(k)].PositionX, Ressources[U(k)].PositionY}; });
+    int32_t types = 0;
+    for (const ClsJeuRessources& r : Ressources) types = std::max(types, r.TypeRessource + 1);
+    GisementsParType.Construire(
+        types, largeur, hauteur, static_cast<int32_t>(NombreRessources),
+        [](int32_t k) { return std::max(Ressources[U(k)].TypeRessource, -1); },
+        [](int32_t k) { return EntreeGrille{k, Ressources[U(k)].PositionX, Ressources[U(k)].PositionY}; });
 }
 
 void PhotoRecherches::Compter() {

@@ -36,6 +36,7 @@ struct PhotoRecherches {
     int32_t EquipesClassees = 0, FiefsClasses = 0, GenresClasses = 0;
     int32_t LargeurMaisons = 0, HauteurMaisons = 0;   // the largest of the houses filed
     GrilleIndices ParEquipe, MaisonsParEquipe, MaisonsParGenre, Gisements;
+    GrilleIndices GisementsParType;   // deposits by the resource they give (none below 0)
     // House slots of each fief, and of each fief by genre, as pictured; counted at the first
     // question of a tick.
     bool Comptes = false;

@@ -73,19 +73,27 @@ void Attaquer_Maison_Proche(int32_t i, bool, bool, bool, bool) {
                            &ClsJeuPerso::Attaquer_Maison);
 }
 
+namespace {
+
+int32_t Premier_Gisement(int32_t type, int32_t x, int32_t y, int32_t rayon) {
+    for (int32_t k = 0; k < Taille(Ressources); ++k) {
+        const ClsJeuRessources& r = Ressources[U(k)];
+        if (r.TypeRessource == type && rayon >= Distance(r.PositionX, r.PositionY, x, y)) return k;
+    }
+    return -1;
+}
+
+}  // namespace
+
 bool Chercher_Ressource(int32_t perso, int32_t i, int32_t type, int32_t& resultat) {
     const ClsJeuPerso& p = Persos[U(perso)];
     int32_t& rayon = RayonRessource[U(i)];
     rayon = Arrondir_En<int32_t>(rayon + static_cast<double>(Rnd()) * LargeurGisement * 10);
-    resultat = -1;
-    for (int32_t k = 0; k < Taille(Ressources); ++k) {
-        const ClsJeuRessources& r = Ressources[U(k)];
-        if (r.TypeRessource != type || rayon < Distance(r.PositionX, r.PositionY, p.PositionX, p.PositionY)) continue;
-        resultat = k;
-        rayon = 0;
-        return true;
-    }
-    return false;
+    resultat = Index_Ouvert() && type >= 0 ? Index_Premier_Gisement(type, p.PositionX, p.PositionY, rayon)
+                                           : Premier_Gisement(type, p.PositionX, p.PositionY, rayon);
+    if (resultat < 0) return false;
+    rayon = 0;
+    return true;
 }
 
 void Aller_Recolter(int32_t i, int32_t type) {

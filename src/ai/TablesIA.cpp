@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "ai/PhotoRecherches.h"
 #include "rules/ClsJeuParam.h"
 #include "rules/Conversions.h"
 #include "rules/Hasard.h"
@@ -47,8 +48,10 @@ void Dimensionner_Tables_IA(int32_t nombre) {
 
 void Initialiser_IA() {
     RayonPlacementFief.assign(Fiefs.size(), 0);
-    // A new game's tables start empty, whatever the last game left in them.
+    // A new game's tables and the searches' picture start empty, whatever the last game left
+    // in them (its rules may have had other building types).
     CurseurIA = 0;
+    PhotoIndex = PhotoRecherches{};
     Dimensionner_Tables_IA(0);
     Dimensionner_Tables_IA(static_cast<int32_t>(Persos.size()));
     CurseurInventaire = static_cast<int16_t>(Arrondir(Rnd()));
@@ -68,6 +71,7 @@ void Initialiser_IA() {
 }
 
 void Reinitialiser_IA() {
+    PhotoIndex = PhotoRecherches{};
     DernierPerso = -1;
     PersosParTrame = PasDeRecherche = 1;
     CurseurIA = 0;

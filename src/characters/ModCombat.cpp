@@ -141,15 +141,12 @@ bool Prendre_Objet(ClsJeuPerso& v, ClsJeuObjet& objet) {
     return true;
 }
 
-// Worn objects first, then the bag. A body that lost what it wore has its bonuses and its
-// look worked out again, ready for when it comes back.
-void Prendre_Objets(ClsJeuPerso& v, ClsJeuPerso& d) {
+// Worn objects first, then the bag. True when something worn was taken.
+bool Prendre_Objets(ClsJeuPerso& v, ClsJeuPerso& d) {
     bool equipement = false;
     for (ClsJeuObjet& o : d.ObjetsEquipes) equipement = Prendre_Objet(v, o) || equipement;
     for (ClsJeuObjet& o : d.ObjetsInventaire) Prendre_Objet(v, o);
-    if (!equipement) return;
-    d.Actualiser_Bonus(Param);
-    d.Calculer_Apparence(Maisons[static_cast<std::size_t>(d.Numero)], Param);
+    return equipement;
 }
 
 // A winner whose own house is a finished barracks is paid for the victim's strength, more
@@ -238,8 +235,13 @@ void Prendre_Butin(int32_t vainqueur, int32_t victime, int16_t actionVictime) {
     ClsJeuPerso& d = Perso(victime);
     Prevenir_Sa_Cible(v, d, actionVictime);
     Partager_Biens(v, d);
-    Prendre_Objets(v, d);
+    const bool equipement = Prendre_Objets(v, d);
+    // The bounty weighs the victim as it fought, with what it wore; a body that lost what it
+    // wore then has its bonuses and its look worked out again, ready for when it comes back.
     Toucher_Prime(v, d);
+    if (!equipement) return;
+    d.Actualiser_Bonus(Param);
+    d.Calculer_Apparence(Maisons[static_cast<std::size_t>(d.Numero)], Param);
 }
 
 void Frapper_Batiment(int32_t attaquant, ClsJeuBatiment& batiment, int32_t proprietaire, int32_t chateau) {

@@ -59,6 +59,7 @@ int16_t ClsJeuParam::Batiment_TypeMatierePremiere(int b) const {
         return dernier;
     }
     if (t.Service != 0) return Services[t.Service].TypeMatierePremiere;
+    if (t.RessourceFabrique < 0) return -1;   // a house that makes nothing needs nothing
     // Resource indices fit 16 bits: the table size is an i16.
     return static_cast<int16_t>(TypesRessources[t.RessourceFabrique].TypeMatierePremiere);
 }

@@ -176,6 +176,7 @@ protected:
         for (ClsJeuRessources& r : Ressources) {
             r.PositionX = Place();
             r.PositionY = Place();
+            r.TypeRessource = Entre(-1, 3);
         }
         for (std::size_t k = 0; k < Persos.size(); ++k) Tirer_Etat_Recherche(k);
     }
@@ -267,7 +268,7 @@ protected:
         const int32_t i = Au_Hasard(Persos.size());
         const auto u = static_cast<std::size_t>(i);
         int32_t attendu = -2, obtenu = -2;
-        switch (Entre(0, 7)) {
+        switch (Entre(0, 8)) {
             case 0: {
                 regle::Etat e{CurseurPerso[u], RayonPerso[u]};
                 EXPECT_EQ(regle::Ennemi(i, e, attendu), Chercher_Ennemi(i, obtenu));
@@ -289,6 +290,7 @@ protected:
             case 4: Comparer_Place(i, Place(), Place()); return;
             case 5: Comparer_Comptes(); return;
             case 6: Comparer_Charges(i); return;
+            case 7: Comparer_Gisement(); return;
             default: Comparer_Emplacement(i, attendu, obtenu); break;
         }
         EXPECT_EQ(attendu, obtenu) << "recherche de " << i;
@@ -324,6 +326,17 @@ protected:
         EXPECT_EQ(p.PersoCible, ennemi < 0 ? -7 : ennemi) << "charge de " << i;
         Attaquer_Maison_Proche(i);
         EXPECT_EQ(p.MaisonCible, maison < 0 ? -7 : maison) << "charge de " << i;
+    }
+    // The first deposit of a type within a radius, against a walk of every deposit.
+    void Comparer_Gisement() {
+        if (!Index_Ouvert()) return;
+        const int32_t type = Entre(0, 4), x = Place(), y = Place(), rayon = Entre(0, 900);
+        int32_t attendu = -1;
+        for (int32_t k = 0; k < static_cast<int32_t>(Ressources.size()) && attendu < 0; ++k) {
+            const ClsJeuRessources& r = Ressources[static_cast<std::size_t>(k)];
+            if (r.TypeRessource == type && std::hypot(r.PositionX - x, r.PositionY - y) <= rayon) attendu = k;
+        }
+        EXPECT_EQ(Index_Premier_Gisement(type, x, y, rayon), attendu) << type << ' ' << x << ' ' << y << ' ' << rayon;
     }
     // The counts of a fief's houses, of one type and of all.
     void Comparer_Comptes() {

@@ -178,6 +178,9 @@ TEST_F(Combat, LeVainqueurPrendUnQuartDesBiensQuelquesObjetsEtSaPrime) {
     d.Attaquer_Perso(1);   // a fellow of the winner, who hears of the death at once
     P(1).Commentaire = "avant";
     ClsJeuBatiment& caserne = Maison(0, 2000, 2000, [](int16_t b) { return Param.Batiment_Service(b) == 2; });
+    // The victim as it fought, its weapon's bonuses included.
+    const double force = d.Definir_MaxDefense() + d.Definir_MaxAttaque() + d.Definir_MaxVie();
+    ASSERT_GT(force, 130);
     // Kill; the comment to 1; the weapon taken and kept; the tunic taken and lost.
     Graine_Pour({Porte, Porte, Libre, Sous(0.25), Au_Dessus(0.5), Sous(0.25), Au_Plus(0.5)});
     Frapper_Perso(0, 3);
@@ -186,8 +189,9 @@ TEST_F(Combat, LeVainqueurPrendUnQuartDesBiensQuelquesObjetsEtSaPrime) {
     EXPECT_TRUE(Dit(P(1), 14));
     EXPECT_EQ(std::tuple(v.ObjetsEquipes[0].Type, v.Objet_Posseder(habit)), std::tuple(arme, false));
     EXPECT_EQ(std::tuple(d.Objet_Posseder(arme), d.Objet_Posseder(habit)), std::tuple(false, false));
-    // The bounty, into the barracks' till: (10 + 20 + 100) × coefficient × (10 + 10) / 10.
-    EXPECT_DOUBLE_EQ(caserne.Argent, 130 * Param.Service_Coefficient(2) * 2);
+    // The bounty, into the barracks' till, weighs the victim with the weapon it lost:
+    // (maxima) × coefficient × (10 + 10) / 10.
+    EXPECT_DOUBLE_EQ(caserne.Argent, force * Param.Service_Coefficient(2) * 2);
 
     // An invocation's kill fills its chief's purse and counts on its own bestiary.
     P(1).Chef = 2;
