@@ -62,31 +62,26 @@ TEST_F(Equipement, IlPorteCeQuiVautAuMoinsCeQuIlRemplace) {
     }
 }
 
-TEST_F(Equipement, SansIAEquiperRienNeBouge) {
+// Without IA_Equiper nothing moves; what is used once is kept for combat.
+TEST_F(Equipement, SansIAEquiperRienNeBougeCeQuiSeConsommeServiUneFoisGardePourLeCombat) {
     ClsJeuPerso& p = Porter(-1, -1, -1, Gourdin);
     p.IA_Equiper = false;
     Equiper_Auto(0);
-    EXPECT_EQ(p.ObjetsInventaire[0].Type, Gourdin);
-    EXPECT_EQ(CurseurInventaire, 0);
-}
-
-TEST_F(Equipement, CeQuiSeConsommeServiUneFoisGardePourLeCombat) {
-    ClsJeuPerso& p = Porter(-1, -1, -1, FioleDeSoins);
+    EXPECT_EQ(std::pair(p.ObjetsInventaire[0].Type, CurseurInventaire), std::pair(Gourdin, int16_t{0}));
+    p.IA_Equiper = true;
+    Porter(-1, -1, -1, FioleDeSoins);
     Equiper_Auto(0);
-    EXPECT_EQ(p.ObjetsInventaire[0].Type, FioleDeSoins);
-    EXPECT_EQ(p.ObjetUtilise, -1);
+    EXPECT_EQ(std::pair(p.ObjetsInventaire[0].Type, p.ObjetUtilise), std::pair(FioleDeSoins, int16_t{-1}));
 
     CurseurInventaire = 0;
     p.Attaquer_Perso(2);
     Equiper_Auto(0);
-    EXPECT_EQ(p.ObjetUtilise, FioleDeSoins);
-    EXPECT_EQ(p.ObjetsInventaire[0].Type, -1);
+    EXPECT_EQ(std::pair(p.ObjetUtilise, p.ObjetsInventaire[0].Type), std::pair(FioleDeSoins, int16_t{-1}));
 
     Porter(-1, -1, -1, BaguetteDeSoins).ObjetUtilise = -1;
     p.Arreter();
     Equiper_Auto(0);
-    EXPECT_EQ(p.ObjetUtilise, BaguetteDeSoins);
-    EXPECT_EQ(p.ObjetsInventaire[0].Type, BaguetteDeSoins);
+    EXPECT_EQ(std::pair(p.ObjetUtilise, p.ObjetsInventaire[0].Type), std::pair(BaguetteDeSoins, BaguetteDeSoins));
 }
 
 TEST_F(Equipement, LeCurseurPartageRevientAZeroPourQuiADeMoinsDeSlots) {
@@ -98,14 +93,11 @@ TEST_F(Equipement, LeCurseurPartageRevientAZeroPourQuiADeMoinsDeSlots) {
     p.Objet_Inventaire_Charger(2, Bonnet);
     CurseurInventaire = 7;
     Equiper_Auto(0);   // slots 0 and 1, none skipped
-    EXPECT_EQ(CurseurInventaire, 2);
-    EXPECT_EQ(p.ObjetsEquipes[0].Type, Gourdin);
-    EXPECT_EQ(p.ObjetsEquipes[2].Type, Tunique);
-    EXPECT_EQ(p.ObjetsInventaire[2].Type, Bonnet);
+    EXPECT_EQ(std::tuple(CurseurInventaire, p.ObjetsEquipes[0].Type, p.ObjetsEquipes[2].Type, p.ObjetsInventaire[2].Type),
+              std::tuple(int16_t{2}, Gourdin, Tunique, Bonnet));
 
     Equiper_Auto(0);   // slot 2, then slot 0 again
-    EXPECT_EQ(CurseurInventaire, 1);
-    EXPECT_EQ(p.ObjetsEquipes[3].Type, Bonnet);
+    EXPECT_EQ(std::pair(CurseurInventaire, p.ObjetsEquipes[3].Type), std::pair(int16_t{1}, Bonnet));
 
     // In combat six slots a thought: twice round three slots.
     p.Attaquer_Perso(2);
@@ -120,8 +112,7 @@ TEST_F(Equipement, LeCurseurPartageRevientAZeroPourQuiADeMoinsDeSlots) {
 }
 
 TEST_F(Equipement, AuChateauIlVendCeQuIlADeTrop) {
-    // Three clubs (category 0), two tunics, two phials used once, a robe worn and a robe
-    // carried: it keeps two clubs, a tunic, both phials and the worn robe.
+    // It keeps two clubs, a tunic, both phials and the worn robe.
     ClsJeuPerso& p = P(0);
     const int16_t sac[] = {Gourdin, Gourdin, Gourdin, Tunique, Tunique, FioleDeSoins, FioleDeSoins, RobeDeBure};
     for (int slot = 0; slot < 8; ++slot) p.Objet_Inventaire_Charger(slot, sac[slot]);

@@ -12,8 +12,7 @@
 
 namespace {
 
-// Villagers of fief 0, four unless a test wants more, around a standing castle, on the default rules. Their house slots
-// are empty and keep type 0, the berry hut, as a fresh slot does.
+// Four villagers of fief 0 around a standing castle; their empty house slots keep type 0, the berry hut.
 class Journee : public ReglesParDefaut {
 protected:
     void SetUp() override {
@@ -50,8 +49,7 @@ protected:
         return 0;
     }
 
-    // House slot k of the type, put up by its owner (who pays nothing) and finished, far from
-    // the castle.
+    // House slot k of the type, put up free by its owner and finished, far from the castle.
     static ClsJeuBatiment& Maison_Finie(int32_t k, int16_t type) {
         ClsJeuBatiment& m = M(k);
         m.Creer(500 + 100 * k, 500, type, P(k), Param);
@@ -80,9 +78,7 @@ TEST_F(Journee, AuPlusHautNiveauIlNeFormeAucunVoeu) {
     EXPECT_EQ(Param.Batiment_Niveau(BatimentVoulu[0]), NiveauBatimentMax);
 }
 
-// Alone in its trade in the fief, a sawyer wishing for the next level gets a type of that
-// level. With a second sawmill in the fief, even one not standing, the first lower trade
-// that nobody there has comes first: the other slots hold the berry hut, so the fisher's.
+// Alone in its trade it climbs; with a second sawmill (even fallen) the first missing lower trade comes first.
 TEST_F(Journee, SeulDeSonMetierIlMonteADeuxIlPrendDAbordLeMetierInferieurQuiManque) {
     const int16_t scierie = Type("Scierie");
     Maison_Finie(0, scierie);
@@ -91,10 +87,7 @@ TEST_F(Journee, SeulDeSonMetierIlMonteADeuxIlPrendDAbordLeMetierInferieurQuiManq
     for (int essai = 0; essai < 5; ++essai) EXPECT_EQ(Choisir_Batiment(0, 0, 2), Type("Cabane du pêcheur"));
 }
 
-// A houseless villager whose missing lower trade belongs to a later epoch takes a type of
-// level 0 instead, and the choice ends even though that trade would still be missing if
-// it asked again. Here every type of level 0 is taken, so the missing trade is the first
-// type of level 1.
+// Houseless, with the missing lower trade of a later epoch, it takes a type of level 0 instead.
 TEST_F(Journee, SansMaisonIlNAttendPasUnMetierDUneEpoqueAVenir) {
     Village(10);
     const int16_t fonderie = Type("Fonderie"), scierie = Type("Scierie");   // levels 2 and 1
@@ -108,9 +101,7 @@ TEST_F(Journee, SansMaisonIlNAttendPasUnMetierDUneEpoqueAVenir) {
     EXPECT_EQ(Choisir_Batiment(0, 0, 0), scierie);
 }
 
-// The wish is met with its price carried, its epoch reached and a place found, but one
-// sawmill among four villagers is already more than the type's share of the fief: the wish
-// is dropped and the house stays as it was. Without the other sawmill the house is rebuilt.
+// Paid for and in its epoch, a type over its share of the fief is dropped; otherwise the house is rebuilt.
 TEST_F(Journee, UnTypeTropCourantNEstPasBatiEtLeVoeuEstAbandonne) {
     const int16_t hutte = Type("Hutte du cueilleur"), scierie = Type("Scierie");
     const int bois = Ressource("Bois"), pierre = Ressource("Pierre");
@@ -125,17 +116,13 @@ TEST_F(Journee, UnTypeTropCourantNEstPasBatiEtLeVoeuEstAbandonne) {
     payer_et_vouloir();
     M(1).Type = scierie;
     Gerer_Batiment_Perso(0);
-    EXPECT_EQ(BatimentVoulu[0], -1);
-    EXPECT_EQ(h.Type, hutte);
-    EXPECT_TRUE(h.Termine);
+    EXPECT_EQ(std::tuple(BatimentVoulu[0], h.Type, h.Termine), std::tuple(int16_t{-1}, hutte, true));
     EXPECT_EQ(p.Definir_Ressources(bois), Param.Batiment_Prix(scierie, bois));
 
     M(1).Type = hutte;
     payer_et_vouloir();
     Gerer_Batiment_Perso(0);
-    EXPECT_EQ(BatimentVoulu[0], -1);
-    EXPECT_EQ(h.Type, scierie);
-    EXPECT_FALSE(h.Termine);
+    EXPECT_EQ(std::tuple(BatimentVoulu[0], h.Type, h.Termine), std::tuple(int16_t{-1}, scierie, false));
     EXPECT_EQ(p.Definir_Action(), 7);   // home, to build it
 }
 
@@ -220,14 +207,11 @@ TEST_F(Journee, UnArtisanQuiPeutFabriquerCommenceParUneLigneVide) {
     p.Definir_Ressources(Ressource("Herbes"), 20);
     p.DansSaMaison = true;
     Gerer_Journee(0);
-    EXPECT_EQ(p.Definir_Action(), 500);
-    EXPECT_EQ(p.ObjetFabrique, 2);
+    EXPECT_EQ(std::pair(p.Definir_Action(), p.ObjetFabrique), std::pair(int16_t{500}, int16_t{2}));
     EXPECT_FALSE(ActionFaite[0]);   // the work goes on when the object is done
 }
 
-// A house that makes no resource, gives no service and is no workshop has nothing to call
-// its owner back for: an idle owner with nothing to carry lives by its idle draws, and one
-// with a unit of goods goes to market. Any of the three calls it home.
+// A house with no resource, service or workshop never calls its owner home; any of the three does.
 TEST_F(Journee, UneMaisonQuiNeProduitRienNeRappelleJamaisSonProprietaire) {
     ClsJeuBatiment& h = Maison_Finie(0, Type("Temple"));
     h.Service = 0;

@@ -48,26 +48,26 @@ TEST_F(Ordonnanceur, DeuxPenseesParTourPuisLeCurseurRevientAuPremier) {
     EXPECT_EQ(CurseurIA, 1);
 }
 
-TEST_F(Ordonnanceur, UnPersoSeulPenseDeuxFoisParTour) {
-    // Out of combat each thought looks at two inventory slots.
+// One under the player's orders does not think; one alone thinks twice a tick, two slots each.
+TEST_F(Ordonnanceur, SousLaMainDuJoueurRienSeulDeuxPenseesParTour) {
+    P(1).ModeAuto = false;
+    P(1).IA_Berserk = true;
+    Penser_Perso(1);
+    EXPECT_TRUE(P(1).Vivant());
     Peupler_Auto(1);
     CurseurInventaire = 0;
     Executer_IA();
     EXPECT_EQ(CurseurInventaire, 4);
 }
 
-TEST_F(Ordonnanceur, UnPersoSousLaMainDuJoueurNePensePas) {
-    P(1).ModeAuto = false;
-    P(1).IA_Berserk = true;
-    Penser_Perso(1);
-    EXPECT_TRUE(P(1).Vivant());
-}
-
 // ---- The dead ------------------------------------------------------------------------
 
 using Mort = Pensee;
 
-TEST_F(Mort, PauvreOuSansTempleIlRentreAuChateau) {
+TEST_F(Mort, SansChateauIlResteOuIlEstPauvreOuSansTempleIlYRentre) {
+    P(0).Vivant(false);
+    Penser_Perso(0);
+    EXPECT_EQ(P(0).Definir_Action(), 0);
     Chateau_Debout();
     for (double argent : {0.0, 5000.0}) {
         P(0).Vivant(false);
@@ -86,37 +86,27 @@ TEST_F(Mort, PauvreOuSansTempleIlRentreAuChateau) {
     EXPECT_EQ(P(0).Definir_Action(), 1);
 }
 
-TEST_F(Mort, SansChateauIlResteOuIlEst) {
-    P(0).Vivant(false);
-    Penser_Perso(0);
-    EXPECT_EQ(P(0).Definir_Action(), 0);
-}
-
-TEST_F(Mort, DansUnTempleIlEstRessuscite) {
-    Maison_Terminee(2, Temple, Centre, Centre);
-    P(0).Vivant(false);
-    P(0).Definir_Argent(100);
-    P(0).DansMaison = true;
-    P(0).MaisonCible = 2;
-    Penser_Perso(0);
-    EXPECT_TRUE(P(0).Vivant());
-    EXPECT_TRUE(ActionFaite[0]);
-    EXPECT_EQ(Maisons[2].Stock, 0);
-}
-
-TEST_F(Mort, UneInvocationMorteResteMorte) {
+// In a temple the dead rise, except an invocation, whatever its chief's attitude or state.
+TEST_F(Mort, DansUnTempleIlEstRessusciteSaufUneInvocation) {
     Maison_Terminee(2, Temple, Centre, Centre);
     Monstre(1, 1, 0).Chef = 0;
-    P(1).Vivant(false);
-    P(1).Definir_Argent(100);
-    P(1).DansMaison = true;
-    P(1).MaisonCible = 2;
+    for (int32_t i : {1, 0}) {
+        P(i).Vivant(false);
+        P(i).Definir_Argent(100);
+        P(i).DansMaison = true;
+        P(i).MaisonCible = 2;
+    }
     for (int32_t attitude : {0, 1}) {
         P(0).Attitude = static_cast<int16_t>(attitude);
         Penser_Perso(1);
         EXPECT_FALSE(P(1).Vivant());
     }
+    Penser_Perso(0);
+    EXPECT_TRUE(P(0).Vivant());
+    EXPECT_TRUE(ActionFaite[0]);
+    EXPECT_EQ(Maisons[2].Stock, 0);
     P(0).Vivant(false);
+    Maisons[2].Stock = 1;
     Penser_Perso(1);
     EXPECT_FALSE(P(1).Vivant());
 }
@@ -160,16 +150,8 @@ TEST_F(Besoins, SansIAMangerIlNeMangePasSonSac) {
 
 using Riposte = Pensee;
 
-TEST_F(Riposte, UnDemolisseurSeRetourneContreUnEnnemiQuIlCombattait) {
-    Ennemi(2);
-    P(0).PersoCible = 2;
-    P(0).Attaquer_Maison(1);
-    Riposter(0);
-    EXPECT_EQ(P(0).Definir_Action(), 300);
-    EXPECT_EQ(P(0).PersoCible, 2);
-}
-
-TEST_F(Riposte, NiUnAmiNiUnEnnemiCacheNiUnePoursuite) {
+// A wrecker turns on an enemy it fought, but not on a friend, a hidden enemy, nor when walking.
+TEST_F(Riposte, UnDemolisseurSeRetourneContreUnEnnemiVisibleQuIlCombattait) {
     P(0).PersoCible = 1;   // a friend
     P(0).Attaquer_Chateau(0);
     Riposter(0);
@@ -184,33 +166,36 @@ TEST_F(Riposte, NiUnAmiNiUnEnnemiCacheNiUnePoursuite) {
     P(2).DansMaison = false;
     Riposter(0);
     EXPECT_EQ(P(0).Definir_Action(), 1);
+    P(0).PersoCible = 2;
+    P(0).Attaquer_Maison(1);
+    Riposter(0);
+    EXPECT_EQ(std::pair(P(0).Definir_Action(), P(0).PersoCible), std::pair(int16_t{300}, 2));
 }
 
 // ---- Berserkers ----------------------------------------------------------------------
 
 using Berserk = Pensee;
 
-TEST_F(Berserk, SansRienACombattreIlTombeMort) {
-    P(0).IA_Berserk = true;
-    Penser_Perso(0);
-    EXPECT_FALSE(P(0).Vivant());
-    EXPECT_EQ(Fiefs[0].NombreMorts, 1);
-}
-
-TEST_F(Berserk, DejaAuCombatIlContinue) {
+TEST_F(Berserk, DejaAuCombatIlContinueSansRienACombattreIlTombeMort) {
     P(0).IA_Berserk = true;
     P(0).Attaquer_Perso(2);
     Penser_Perso(0);
-    EXPECT_TRUE(P(0).Vivant());
-    EXPECT_EQ(P(0).PersoCible, 2);
+    EXPECT_EQ(std::pair(P(0).Vivant(), P(0).PersoCible), std::pair(true, 2));
+    P(0).Arreter();
+    Penser_Perso(0);
+    EXPECT_EQ(std::pair(P(0).Vivant(), Fiefs[0].NombreMorts), std::pair(false, 1));
 }
 
 // ---- Monsters ------------------------------------------------------------------------
 
 using Repaire = Pensee;
 
-TEST_F(Repaire, UnMonstreRetrouveSesBiensEtGuerit) {
+TEST_F(Repaire, HorsDeSonRepaireRienDedansUnMonstreRetrouveSesBiensEtGuerit) {
     ClsJeuPerso& chef = Monstre(0, 2, 6);
+    chef.Ressources[0] = 0;
+    Ravitailler_Monstre(0);
+    EXPECT_EQ(chef.Ressources[0], 0);
+    EXPECT_FALSE(ActionFaite[0]);
     chef.Objet_Inventaire_Vider_Tout();
     chef.Objet_Equipes_Vider_Tout();
     chef.Ressources.assign(chef.Ressources.size(), 0.0);
@@ -219,11 +204,8 @@ TEST_F(Repaire, UnMonstreRetrouveSesBiensEtGuerit) {
     chef.Vie.Valeur = 10;
     chef.DansSonChateau = true;
     Ravitailler_Monstre(0);
-    EXPECT_EQ(chef.Ressources[0], 5);
-    EXPECT_EQ(chef.Ressources[1], 4);
-    EXPECT_EQ(chef.Ressources[14], 9);
-    EXPECT_EQ(chef.Objet_NombreType(EpeeCourte), 1);
-    EXPECT_EQ(chef.Objet_NombreType(50), 1);
+    EXPECT_EQ(std::tuple(chef.Ressources[0], chef.Ressources[1], chef.Ressources[14]), std::tuple(5.0, 4.0, 9.0));
+    EXPECT_EQ(std::pair(chef.Objet_NombreType(EpeeCourte), chef.Objet_NombreType(50)), std::pair(1, 1));
     EXPECT_EQ(chef.Vie.Reserve, chef.Vie.Max - 10);
     EXPECT_EQ(chef.Energie.Reserve, chef.Energie.Max - chef.Energie.Valeur);
     EXPECT_TRUE(ActionFaite[0]);
@@ -232,14 +214,6 @@ TEST_F(Repaire, UnMonstreRetrouveSesBiensEtGuerit) {
     chef.Ressources[0] = 0;
     Ravitailler_Monstre(0);
     EXPECT_EQ(chef.Ressources[0], 0);
-}
-
-TEST_F(Repaire, HorsDeSonRepaireRien) {
-    ClsJeuPerso& chef = Monstre(0, 2, 6);
-    chef.Ressources[0] = 0;
-    Ravitailler_Monstre(0);
-    EXPECT_EQ(chef.Ressources[0], 0);
-    EXPECT_FALSE(ActionFaite[0]);
 }
 
 // ---- Summoned creatures --------------------------------------------------------------
@@ -262,16 +236,12 @@ protected:
     static bool A_Mange() { return P(1).Definir_Ressources(Baies) < 10; }
 };
 
-TEST_F(Suivant, IlSuitLaDestinationDeSonChefAvecSonDecalage) {
+// It follows its chief's destination with its offset and strikes what the chief strikes.
+TEST_F(Suivant, IlSuitSonChefAvecSonDecalageEtFrappeCeQuIlFrappe) {
     P(0).Aller_A(1000, 900);
     Penser_Perso(1);
-    EXPECT_EQ(P(1).Definir_Action(), 1);
-    EXPECT_EQ(P(1).DestinationX, 1016);
-    EXPECT_EQ(P(1).DestinationY, 876);
+    EXPECT_EQ(std::tuple(P(1).Definir_Action(), P(1).DestinationX, P(1).DestinationY), std::tuple(int16_t{1}, 1016, 876));
     EXPECT_FALSE(A_Mange());
-}
-
-TEST_F(Suivant, IlFrappeCeQueFrappeSonChefSaufSIlSeBatDeja) {
     P(0).Attaquer_Perso(2);
     Penser_Perso(1);
     EXPECT_EQ(P(1).Definir_Action(), 300);

@@ -1,5 +1,4 @@
-// A small world on the default rules for the searches: fiefs with their teams and castles,
-// characters put where a test wants them, houses raised and stocked by hand.
+// A world on the default rules for the searches: fiefs, castles, characters and houses by hand.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -13,8 +12,7 @@
 
 class MondeRecherches : public ReglesParDefaut {
 protected:
-    // A world of 200 × 200 tiles, `equipes.size()` fiefs (fief f of team equipes[f]) with
-    // their castles out of the way in the far corner, and n characters of fief 0 at (0, 0).
+    // 200 × 200 tiles, fief f of team equipes[f], castles far off, n characters of fief 0 at (0, 0).
     void Creer_Monde(int32_t n, std::initializer_list<int32_t> equipes = {0, 1}) {
         Monde.Largeur = Monde.Hauteur = 200;
         const ClsJeuFief modele = Fiefs[0];

@@ -1,11 +1,5 @@
-// A small world for the tests of the thought: one fief (team 0) and a few characters of it,
-// all driven by the AI, standing together in the middle of a 100 × 80 tile map with no
-// castle, house or deposit yet. Helpers put up the castle, a finished house and deposits.
-//
-// What the tests count on in the default rules: resource 0 (Baies) is eaten for health;
-// building type 14 (the temple) has service 1, resurrection, for 40; people 1 are wolves
-// and people 2 goblins, whose chief (monster 6) carries 5 Baies, 2 of resource 14, a short
-// sword (object 12) and a totem (object 50).
+// Characters of fief 0 driven by the AI at the centre of a 100 × 80 map. Default rules: Baies
+// heal; the temple resurrects; people 1 are wolves, people 2 goblins (chief: monster 6).
 #pragma once
 
 #include <cstddef>
@@ -14,8 +8,7 @@
 #include "ai/TablesIA.h"
 #include "world/Globales.h"
 
-// Objects of the default rules: one hand (category 0), both hands (1), body (2), and
-// things to consume.
+// Objects of the default rules.
 inline constexpr int16_t Baton = 0, Gourdin = 1, ArcCourt = 2, BouclierBois = 3, CanneAPeche = 5, Tunique = 6,
                          Bonnet = 8, RobeDeBure = 9, EpeeCourte = 12, HacheBucheron = 14, Pioche = 15,
                          CotteDeMailles = 21, FioleDeSoins = 30, BaguetteDeSoins = 38;

@@ -11,9 +11,7 @@
 
 namespace {
 
-// Ten characters: PasDeRecherche is round(9 × 0.6) = 5, so a call looks at six candidates.
-// Character 0 looks from (1000, 1000); everyone else is a friend at (0, 0) unless a test
-// puts them elsewhere.
+// Ten characters (a call looks at six); 0 looks from (1000, 1000), the others friends at (0, 0).
 class Recherches : public MondeRecherches {
 protected:
     void SetUp() override {
@@ -21,17 +19,15 @@ protected:
         Creer_Monde(10);
         Placer(0, 1000, 1000);
     }
-    static int32_t Chercher(bool (*recherche)(int32_t, int32_t&), int32_t i = 0) {
+    template <class Recherche>
+    static int32_t Chercher(Recherche recherche, int32_t i = 0) {
         int32_t r = -2;
         const bool trouve = recherche(i, r);
         EXPECT_EQ(trouve, r >= 0);
         return r;
     }
     static int32_t Maison_Pour(int16_t ressource, int16_t besoin, int16_t service) {
-        int32_t r = -2;
-        const bool trouve = Chercher_Maison(0, 0, ressource, besoin, service, r);
-        EXPECT_EQ(trouve, r >= 0);
-        return r;
+        return Chercher([&](int32_t i, int32_t& r) { return Chercher_Maison(i, 0, ressource, besoin, service, r); });
     }
 };
 
@@ -52,34 +48,27 @@ TEST_F(Recherches, LaRechercheReprendDerriereLaCibleTrouvee) {
     Placer(2, 1050, 1000, 1);
     Placer(4, 1000, 1050, 1);
     RayonPerso[0] = 200;
-    EXPECT_EQ(Chercher(Chercher_Ennemi), 2);
-    EXPECT_EQ(CurseurPerso[0], 3);
-    EXPECT_EQ(Chercher(Chercher_Ennemi), 4);
-    EXPECT_EQ(CurseurPerso[0], 5);
-    // 5 to 9, then round to 0: nothing, and the pass has widened the radius.
-    EXPECT_EQ(Chercher(Chercher_Ennemi), -1);
-    EXPECT_EQ(CurseurPerso[0], 1);
+    // (found, cursor after): 5 to 9 then 0 finds nothing, and that pass widens the radius.
+    for (const auto& [trouve, curseur] : {std::pair{2, 3}, std::pair{4, 5}, std::pair{-1, 1}}) {
+        EXPECT_EQ(Chercher(Chercher_Ennemi), trouve);
+        EXPECT_EQ(CurseurPerso[0], curseur) << trouve;
+    }
     EXPECT_EQ(RayonPerso[0], 248);
     EXPECT_EQ(Chercher(Chercher_Ennemi), 2);
 }
 
 TEST_F(Recherches, UnAppelRegardeAuPlusPasDeRecherchePlusUnCandidats) {
     RayonPerso[0] = 640;
-    EXPECT_EQ(Chercher(Chercher_Ennemi), -1);
-    EXPECT_EQ(CurseurPerso[0], 6);
-    EXPECT_EQ(Chercher(Chercher_Ennemi), -1);   // 6 to 9, then 0 and 1
-    EXPECT_EQ(CurseurPerso[0], 2);
-    // The enemy at 8 lies just beyond this call's six steps, 2 to 7.
-    Placer(8, 1000, 1000, 1);
-    EXPECT_EQ(Chercher(Chercher_Ennemi), -1);
-    EXPECT_EQ(CurseurPerso[0], 8);
-    EXPECT_EQ(Chercher(Chercher_Ennemi), 8);
-    EXPECT_EQ(CurseurPerso[0], 9);
+    // (found, cursor after); the enemy at 8 lies just beyond the third call's steps, 2 to 7.
+    for (const auto& [trouve, curseur] : {std::pair{-1, 6}, std::pair{-1, 2}, std::pair{-1, 8}, std::pair{8, 9}}) {
+        if (curseur == 8) Placer(8, 1000, 1000, 1);
+        EXPECT_EQ(Chercher(Chercher_Ennemi), trouve);
+        EXPECT_EQ(CurseurPerso[0], curseur) << trouve;
+    }
 }
 
 TEST_F(Recherches, LeRayonPersoVaDe64EnPasDe48JusquA640PuisRevientA64) {
-    // From its start at 0 it climbs by 48, until the step past 640 brings it back to 64;
-    // then round and round 64, 112, … 640.
+    // 48, 96, … 624, then round and round 64, 112, … 640.
     std::vector<int32_t> attendus;
     for (int32_t r = 48; r <= 640; r += 48) attendus.push_back(r);
     for (int tour = 0; tour < 3; ++tour)
@@ -201,8 +190,7 @@ TEST_F(Recherches, LeGisementTrouveEstLePremierDansLOrdrePasLePlusProche) {
     gisement(3, 7, 9000, 9000);
     RayonRessource[0] = 300;   // one draw makes it 300 or more
     int32_t r = -2;
-    EXPECT_TRUE(Chercher_Ressource(0, 0, 7, r));
-    EXPECT_EQ(r, 1);
+    EXPECT_TRUE(Chercher_Ressource(0, 0, 7, r) && r == 1);
     EXPECT_EQ(RayonRessource[0], 0);
     // Nothing within reach: the radius only grows, by less than ten deposit widths a call.
     int32_t avant = 0;
@@ -215,8 +203,7 @@ TEST_F(Recherches, LeGisementTrouveEstLePremierDansLOrdrePasLePlusProche) {
     }
     RayonRessource[0] = 300;
     Aller_Recolter(0, 7);
-    EXPECT_EQ(P(0).RessourceCible, 1);
-    EXPECT_EQ(P(0).Definir_Action(), 3);
+    EXPECT_EQ(std::pair(P(0).RessourceCible, P(0).Definir_Action()), std::pair(1, int16_t{3}));
 }
 
 TEST_F(Recherches, LeGisementLePlusProcheDUnTerrainEtSinonLeGisementZero) {
@@ -237,8 +224,7 @@ TEST_F(Recherches, LePremierDesCiblesAussiProchesResteEtLArrondiCompte) {
     Placer(3, 1050, 1000, 1);
     Placer(6, 1000, 1050, 1);
     Attaquer_Perso_Proche(0);
-    EXPECT_EQ(P(0).PersoCible, 3);
-    EXPECT_EQ(P(0).Definir_Action(), 300);
+    EXPECT_EQ(std::pair(P(0).PersoCible, P(0).Definir_Action()), std::pair(3, int16_t{300}));
     // 10.44 is kept as 10: 10.20 is not nearer, 9.49 is.
     Placer(2, 1010, 1003, 1);
     Placer(4, 1010, 1002, 1);
@@ -256,8 +242,7 @@ TEST_F(Recherches, LaChargeVaAuChateauOuALaMaisonEnnemieLaPlusProche) {
         Chateaux[f].Vie = 10;
     }
     Attaquer_Chateau_Proche(0);
-    EXPECT_EQ(P(0).ChateauCible, 1);   // castle 0 is its own fief's
-    EXPECT_EQ(P(0).Definir_Action(), 302);
+    EXPECT_EQ(std::pair(P(0).ChateauCible, P(0).Definir_Action()), std::pair(1, int16_t{302}));   // 0 is its own
     const int16_t type = Type_Nourrissant(1);
     Placer(6, 0, 0, 1);
     Placer(8, 0, 0, 1);
@@ -265,8 +250,7 @@ TEST_F(Recherches, LaChargeVaAuChateauOuALaMaisonEnnemieLaPlusProche) {
     Batir(8, type, 1000, 1400);
     Batir(2, type, 1000, 1000);   // a friend's
     Attaquer_Maison_Proche(0);
-    EXPECT_EQ(P(0).MaisonCible, 8);
-    EXPECT_EQ(P(0).Definir_Action(), 301);
+    EXPECT_EQ(std::pair(P(0).MaisonCible, P(0).Definir_Action()), std::pair(8, int16_t{301}));
 }
 
 TEST_F(Recherches, LesComptesDeMaisonsParTypeEtParFief) {

@@ -21,9 +21,7 @@ const Tirage Libre = [](float) { return true; };
 // A blow that lands and is not a hard one: two draws above 0.05.
 const Tirage Porte = Au_Dessus(0.05);
 
-// Two teams in the open at (1000, 1000): characters 0 to n0 - 1 of fief 0, the next n1 of
-// fief 1, humans under the player's orders. The castles stand far away. The phrase book is
-// read, so that every comment given costs a draw.
+// Fiefs 0 (first n0) and 1 (next n1) in the open at (1000, 1000), castles far off; comments cost a draw.
 class Combat : public ReglesParDefaut {
 protected:
     void SetUp() override {
@@ -315,8 +313,7 @@ TEST_F(Combat, UneVictimeAffaibliePeutFuirApresAvoirAppeleALAide) {
     }
 }
 
-// The whole tick: a fighter in reach strikes when ready and when it can pay for its
-// equipment, else it says what it lacks and puts its weapons away.
+// In reach it strikes when ready and able to pay for its equipment, else says what it lacks.
 TEST_F(Combat, LeCoupDuTourAttendDEtrePretEtPayeLEquipement) {
     ClsJeuPerso& a = P(0);
     ClsJeuPerso& t = P(3);
